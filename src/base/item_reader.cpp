@@ -1,0 +1,64 @@
+// Free-format input.
+#include "base/item_reader.h"
+
+#include "base/fault.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr char kEndOfText = 26;
+
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool EndsItem(char c) { return IsBlank(c) || IsLineEnd(c) || c == ','; }
+
+}  // namespace
+
+ItemReader::ItemReader(std::string_view text) : rest_(text.substr(0, text.find(kEndOfText))) {}
+
+double ItemReader::Number() {
+  SkipBlanksAndLineEnds();
+  if (rest_.empty()) throw Fault(FaultKind::EndOfFile, "a number was expected");
+  std::size_t length = 0;
+  while (length < rest_.size() && !EndsItem(rest_[length])) ++length;
+  const std::string_view item = rest_.substr(0, length);
+  rest_.remove_prefix(length);
+  SkipBlanks();
+  if (!rest_.empty() && rest_.front() == ',') {
+    rest_.remove_prefix(1);
+  } else {
+    SkipOneLineEnd();
+  }
+  return item.empty() ? 0 : WholeNumber(item);
+}
+
+std::string_view ItemReader::Line() {
+  if (rest_.empty()) throw Fault(FaultKind::EndOfFile, "a line was expected");
+  const std::string_view line = rest_.substr(0, rest_.find_first_of("\r\n"));
+  rest_.remove_prefix(line.size());
+  SkipOneLineEnd();
+  return line;
+}
+
+bool ItemReader::AtEnd() {
+  SkipBlanksAndLineEnds();
+  return rest_.empty();
+}
+
+void ItemReader::SkipBlanks() {
+  while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
+}
+
+void ItemReader::SkipBlanksAndLineEnds() {
+  while (!rest_.empty() && (IsBlank(rest_.front()) || IsLineEnd(rest_.front()))) rest_.remove_prefix(1);
+}
+
+bool ItemReader::SkipOneLineEnd() {
+  if (rest_.empty() || !IsLineEnd(rest_.front())) return false;
+  const bool pair = rest_.substr(0, 2) == "\r\n";
+  rest_.remove_prefix(pair ? 2 : 1);
+  return true;
+}
+
+}  // namespace pelorium

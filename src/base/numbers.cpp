@@ -1,0 +1,211 @@
+// Number forms and rounding. Formatting goes through std::to_chars, which no locale reaches.
+#include "base/numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+
+#include "base/fault.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr int kGeneralDigits = 15;
+constexpr double kWholeLimit = 4503599627370496.0;  // 2^52: from here on a double holds no fractions
+
+constexpr std::array<double, 10> kPowersOfTen = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+
+void AppendWhole(std::string& text, std::int64_t value) {
+  char digits[24];
+  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+  text.append(digits, end);
+}
+
+// Lays out significant digits d1d2d3... that stand for d1.d2d3... * 10^exponent.
+void AppendLaidOut(std::string& text, bool negative, std::string_view digits, int exponent) {
+  while (digits.size() > 1 && digits.back() == '0') digits.remove_suffix(1);
+  if (negative) text += '-';
+  if (exponent < -kGeneralDigits || exponent >= kGeneralDigits) {
+    text += digits[0];
+    if (digits.size() > 1) (text += '.') += digits.substr(1);
+    text += exponent < 0 ? "E-" : "E+";
+    AppendWhole(text, std::abs(exponent));
+  } else if (exponent < 0) {
+    text += "0.";
+    text.append(static_cast<std::size_t>(-exponent - 1), '0') += digits;
+  } else {
+    const auto whole = static_cast<std::size_t>(exponent) + 1;
+    text += digits.substr(0, whole);
+    if (digits.size() < whole) text.append(whole - digits.size(), '0');
+    if (digits.size() > whole) (text += '.') += digits.substr(whole);
+  }
+}
+
+// Takes apart what to_chars gives in scientific notation: "-d.ddde+xx".
+void AppendScientific(std::string& text, std::string_view scientific) {
+  const bool negative = scientific.front() == '-';
+  if (negative) scientific.remove_prefix(1);
+  const std::size_t e = scientific.find('e');
+  char digits[32];
+  std::size_t count = 0;
+  for (const char c : scientific.substr(0, e)) {
+    if (c != '.') digits[count++] = c;
+  }
+  const int exponent = std::atoi(scientific.data() + e + 1);
+  AppendLaidOut(text, negative, {digits, count}, exponent);
+}
+
+template <typename Real>
+std::string Shortest(Real value) {
+  if (std::isnan(value)) return "nan";
+  if (std::isinf(value)) return value < 0 ? "-inf" : "inf";
+  std::string text;
+  if (value == 0) return "0";
+  char buffer[40];
+  *std::to_chars(buffer, buffer + sizeof buffer - 1, value, std::chars_format::scientific).ptr = '\0';
+  AppendScientific(text, buffer);
+  return text;
+}
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+std::size_t SkipDigits(std::string_view text, std::size_t at) {
+  while (at < text.size() && IsDigit(text[at])) ++at;
+  return at;
+}
+
+// Length of the number at the start of `text`, 0 if there is none. An exponent counts only with a digit in it.
+std::size_t NumberLength(std::string_view text) {
+  std::size_t at = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
+  const std::size_t whole = SkipDigits(text, at);
+  std::size_t mantissaDigits = whole - at;
+  at = whole;
+  if (at < text.size() && text[at] == '.') {
+    const std::size_t fraction = SkipDigits(text, at + 1);
+    mantissaDigits += fraction - at - 1;
+    at = fraction;
+  }
+  if (mantissaDigits == 0) return 0;
+  if (at < text.size() && std::strchr("EeDd", text[at]) != nullptr) {
+    std::size_t exponent = at + 1;
+    if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+    const std::size_t end = SkipDigits(text, exponent);
+    if (end > exponent) at = end;
+  }
+  return at;
+}
+
+// Converts text that NumberLength has measured.
+double Convert(std::string_view number) {
+  if (number.front() == '+') number.remove_prefix(1);
+  std::string withE;
+  const std::size_t d = number.find_first_of("Dd");
+  if (d != std::string_view::npos) {
+    withE.assign(number);
+    withE[d] = 'e';
+    number = withE;
+  }
+  double value = 0;
+  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (result.ec == std::errc::result_out_of_range) {
+    // Too small for a double is 0; a negative exponent can only have become too small.
+    const std::size_t e = number.find_first_of("Ee");
+    const bool tiny = e == std::string_view::npos ? number.find_first_of("123456789") > number.find('.')
+                                                  : number[e + 1] == '-';
+    if (tiny) return 0;
+    throw Fault(FaultKind::Overflow, std::string(number.substr(0, 40)));
+  }
+  return value;
+}
+
+}  // namespace
+
+double RoundHalfEven(double value) { return std::nearbyint(value); }
+
+double RoundTo(double value, int decimals) {
+  const double scale = kPowersOfTen.at(static_cast<std::size_t>(decimals));
+  const double scaled = value * scale;
+  if (!(std::fabs(scaled) < kWholeLimit)) return value;
+  const double rounded = std::nearbyint(scaled) / scale;
+  return rounded == 0 ? 0.0 : rounded;
+}
+
+void AppendGeneralForm(std::string& text, double value) {
+  if (!std::isfinite(value)) throw Fault(FaultKind::BadNumber, "no digits for a NaN or infinity");
+  if (std::fabs(value) < 1e15 && value == std::trunc(value)) {
+    AppendWhole(text, static_cast<std::int64_t>(value));
+    return;
+  }
+  char buffer[40];
+  *std::to_chars(buffer, buffer + sizeof buffer - 1, value, std::chars_format::scientific, kGeneralDigits - 1)
+       .ptr = '\0';
+  AppendScientific(text, buffer);
+}
+
+std::string GeneralForm(double value) {
+  std::string text;
+  AppendGeneralForm(text, value);
+  return text;
+}
+
+void AppendRoundedForm(std::string& text, double value, int decimals) {
+  const double scale = kPowersOfTen.at(static_cast<std::size_t>(decimals));
+  const double scaled = std::nearbyint(value * scale);
+  if (!(std::fabs(scaled) < 1e15)) {
+    AppendGeneralForm(text, RoundTo(value, decimals));
+    return;
+  }
+  // Below 15 digits the general form of units / scale is just the units' digits with a point set in.
+  auto units = static_cast<std::int64_t>(scaled);
+  if (units < 0) {
+    text += '-';
+    units = -units;
+  }
+  const auto divisor = static_cast<std::int64_t>(scale);
+  AppendWhole(text, units / divisor);
+  std::int64_t fraction = units % divisor;
+  if (fraction == 0) return;
+  char digits[12];
+  int count = decimals;
+  while (fraction % 10 == 0) fraction /= 10, --count;
+  for (int i = count - 1; i >= 0; --i, fraction /= 10) digits[i] = static_cast<char>('0' + fraction % 10);
+  (text += '.').append(digits, static_cast<std::size_t>(count));
+}
+
+std::string RoundedForm(double value, int decimals) {
+  std::string text;
+  AppendRoundedForm(text, value, decimals);
+  return text;
+}
+
+std::string PrintForm(double value) {
+  std::string text = value < 0 ? "" : " ";
+  AppendGeneralForm(text, value);
+  return text += ' ';
+}
+
+std::string ShortestForm(double value) { return Shortest(value); }
+std::string ShortestForm(float value) { return Shortest(value); }
+
+double Val(std::string_view text) {
+  const std::size_t start = text.find_first_not_of(" \t");
+  if (start == std::string_view::npos) return 0;
+  text.remove_prefix(start);
+  const std::size_t length = NumberLength(text);
+  return length == 0 ? 0 : Convert(text.substr(0, length));
+}
+
+double WholeNumber(std::string_view text) {
+  const std::size_t length = NumberLength(text);
+  if (length == 0 || length != text.size()) {
+    throw Fault(FaultKind::BadNumber, "\"" + std::string(text.substr(0, 40)) + "\"");
+  }
+  return Convert(text);
+}
+
+void RaiseOverflow(double value) { throw Fault(FaultKind::Overflow, ShortestForm(value)); }
+
+}  // namespace pelorium

@@ -1,0 +1,39 @@
+// The words of the layout declarations.
+#include "controls/layout.h"
+
+#include <utility>
+
+#include "controls/control.h"
+
+namespace pelorium {
+
+LayoutItem Column(std::vector<LayoutItem> items) { return {LayoutKind::Column, {}, {}, std::move(items)}; }
+
+LayoutItem Row(std::vector<LayoutItem> items) { return {LayoutKind::Row, {}, {}, std::move(items)}; }
+
+LayoutItem Frame(std::string title, std::vector<LayoutItem> items) {
+  return {LayoutKind::Frame, std::move(title), {}, std::move(items)};
+}
+
+LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes) {
+  LayoutItem row{LayoutKind::BarRow, bar.caption(), {&bar}, {}};
+  row.controls.insert(row.controls.end(), boxes);
+  return row;
+}
+
+LayoutItem Flow(std::initializer_list<Control*> controls) { return {LayoutKind::Flow, {}, controls, {}}; }
+
+LayoutItem Flow(std::vector<Control*> controls) { return {LayoutKind::Flow, {}, std::move(controls), {}}; }
+
+LayoutItem Single(Control& control) { return {LayoutKind::Single, {}, {&control}, {}}; }
+
+LayoutItem Labelled(std::string label, Control& control) {
+  return {LayoutKind::Single, std::move(label), {&control}, {}};
+}
+
+LayoutItem Stretching(LayoutItem item) {
+  item.stretches = true;
+  return item;
+}
+
+}  // namespace pelorium

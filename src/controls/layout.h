@@ -1,0 +1,42 @@
+// How a window's controls stand: declared once beside the controls, laid out by one routine of the face.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace pelorium {
+
+class Control;
+class Window;
+
+enum class LayoutKind {
+  Column,  // items one below the other
+  Row,     // items side by side
+  Frame,   // a titled box around a column
+  BarRow,  // a label, a scroll bar and the text box that shows its value; aligned with the bar rows around it
+  Flow,    // small controls (buttons, ticks) in rows that wrap where the window ends
+  Single,  // one control
+};
+
+struct LayoutItem {
+  LayoutKind kind = LayoutKind::Column;
+  std::string title;                // of a Frame; the label of a BarRow or of a labelled Single
+  std::vector<Control*> controls;   // of a BarRow, a Flow or a Single
+  std::vector<LayoutItem> items;    // of a Column, a Row or a Frame
+  bool stretches = false;           // takes the room that is left over
+};
+
+LayoutItem Column(std::vector<LayoutItem> items);
+LayoutItem Row(std::vector<LayoutItem> items);
+LayoutItem Frame(std::string title, std::vector<LayoutItem> items);
+// A bar, what it is for (its caption), and none, one or several boxes or labels that show its value.
+LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes);
+LayoutItem Flow(std::initializer_list<Control*> controls);
+LayoutItem Flow(std::vector<Control*> controls);
+LayoutItem Single(Control& control);
+// A control with a text before it, aligned like a bar row.
+LayoutItem Labelled(std::string label, Control& control);
+LayoutItem Stretching(LayoutItem item);
+
+}  // namespace pelorium

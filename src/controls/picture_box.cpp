@@ -1,0 +1,22 @@
+// Picture boxes.
+#include "controls/picture_box.h"
+
+#include <utility>
+
+namespace pelorium {
+
+PictureBox::PictureBox(Window& owner, std::string name, int pixelWidth, int pixelHeight, std::string toolTip)
+    : Control(owner, ControlKind::PictureBox, std::move(name), {}, std::move(toolTip)),
+      picture(pixelWidth, pixelHeight) {}
+
+void PictureBox::Resize(int pixelWidth, int pixelHeight) {
+  if (pixelWidth <= 0 || pixelHeight <= 0) return;
+  if (onResize) {
+    onResize(pixelWidth, pixelHeight);
+  } else {
+    picture.Resize(pixelWidth, pixelHeight);
+  }
+  NotifyChanged();
+}
+
+}  // namespace pelorium

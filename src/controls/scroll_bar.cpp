@@ -1,0 +1,90 @@
+// Scroll bars.
+#include "controls/scroll_bar.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/fault.h"
+#include "base/numbers.h"
+#include "controls/text_box.h"
+
+namespace pelorium {
+
+ScrollBar::ScrollBar(Window& owner, std::string name, BarRange range, std::string caption, std::string toolTip)
+    : Control(owner, ControlKind::ScrollBar, std::move(name), std::move(caption), std::move(toolTip)),
+      smallChange(range.smallChange),
+      largeChange(range.largeChange),
+      min_(range.min),
+      max_(range.max),
+      value_(range.value) {}
+
+void ScrollBar::SetValue(int value) {
+  if (value != Clamped(value)) {
+    throw Fault(FaultKind::InvalidValue, FullName() + " := " + std::to_string(value) + ", allowed " +
+                                             std::to_string(min_) + ".." + std::to_string(max_));
+  }
+  Store(value);
+}
+
+void ScrollBar::SetMin(int min) {
+  min_ = min;
+  NotifyChanged();
+  Store(Clamped(value_));
+}
+
+void ScrollBar::SetMax(int max) {
+  max_ = max;
+  NotifyChanged();
+  Store(Clamped(value_));
+}
+
+void ScrollBar::SetValueWidening(int value) {
+  if (value > max_) SetMax(value);
+  if (value < min_) SetMin(value);
+  SetValue(value);
+}
+
+int ScrollBar::Clamped(double value) const {
+  const auto [low, high] = std::minmax(min_, max_);
+  if (!(value > low)) return low;
+  return value < high ? static_cast<int>(RoundHalfEven(value)) : high;
+}
+
+void ScrollBar::SetMirror(TextBox& box, double divisor) {
+  mirror_ = &box;
+  divisor_ = divisor;
+}
+
+void ScrollBar::SetOwnValue(const PropertyValue& value) { SetValue(ToInteger<int>(AsNumber(value))); }
+
+void ScrollBar::Store(int value) {
+  if (value == value_) return;
+  value_ = value;
+  NotifyChanged();
+  if (mirror_ != nullptr) mirror_->SetText(GeneralForm(Shown()));
+  if (onChange) onChange();
+}
+
+ProgressBar::ProgressBar(Window& owner, std::string name, int max)
+    : Control(owner, ControlKind::ProgressBar, std::move(name), {}, {}), max_(max) {}
+
+void ProgressBar::SetMax(int max) {
+  max_ = std::max(1, max);
+  SetValue(value_);
+}
+
+void ProgressBar::SetValue(int value) {
+  value_ = std::clamp(value, 0, max_);
+  NotifyChanged();
+}
+
+void ProgressBar::SetOwnValue(const PropertyValue& value) { SetValue(ToInteger<int>(AsNumber(value))); }
+
+void Mirror(ScrollBar& bar, TextBox& box, double divisor) { bar.SetMirror(box, divisor); }
+
+void Pair(ScrollBar& bar, TextBox& box, double divisor) {
+  bar.SetMirror(box, divisor);
+  box.onKeyUp = [&bar, &box, divisor] { bar.Drag(Val(box.text()) * divisor); };
+}
+
+}  // namespace pelorium

@@ -1,0 +1,81 @@
+// Scroll bars, the boxes that mirror them, and progress bars.
+#pragma once
+
+#include <optional>
+
+#include "controls/control.h"
+
+namespace pelorium {
+
+class TextBox;
+
+struct BarRange {
+  int min = 0;
+  int max = 32767;
+  int value = 0;
+  int smallChange = 1;
+  int largeChange = 10;
+};
+
+class ScrollBar : public Control {
+ public:
+  ScrollBar(Window& owner, std::string name, BarRange range, std::string caption = {}, std::string toolTip = {});
+
+  int value() const { return value_; }
+  int min() const { return min_; }
+  int max() const { return max_; }
+
+  // As the program sets it: outside min..max (either order) raises InvalidValue; an equal value does nothing; a
+  // different one moves the mirror and runs onChange once, within the call.
+  void SetValue(int value);
+  // A value that the new limit leaves outside is pulled to the nearest inside, which runs onChange.
+  void SetMin(int min);
+  void SetMax(int max);
+  // Raises the limits as far as the value needs, then sets it.
+  void SetValueWidening(int value);
+  // The nearest value inside min..max.
+  int Clamped(double value) const;
+  // As a person moves it: clamped, then set.
+  void Drag(double value) { SetValue(Clamped(value)); }
+
+  // `box` shows value / divisor in general form from now on.
+  void SetMirror(TextBox& box, double divisor);
+  double Shown() const { return value_ / divisor_; }
+
+  PropertyValue Value() const override { return static_cast<double>(value_); }
+  void SetOwnValue(const PropertyValue& value) override;
+
+  std::function<void()> onChange;
+  int smallChange, largeChange;
+
+ private:
+  void Store(int value);
+
+  int min_, max_, value_;
+  TextBox* mirror_ = nullptr;
+  double divisor_ = 1;
+};
+
+// Shows how far a long job is. The face repaints it while the handler still runs.
+class ProgressBar : public Control {
+ public:
+  ProgressBar(Window& owner, std::string name, int max);
+
+  int value() const { return value_; }
+  int max() const { return max_; }
+  void SetMax(int max);
+  void SetValue(int value);  // held in 0..max
+
+  PropertyValue Value() const override { return static_cast<double>(value_); }
+  void SetOwnValue(const PropertyValue& value) override;
+
+ private:
+  int max_, value_ = 0;
+};
+
+// The box shows the bar's value / divisor.
+void Mirror(ScrollBar& bar, TextBox& box, double divisor = 1);
+// The same, and what a person types into the box moves the bar, held in its limits.
+void Pair(ScrollBar& bar, TextBox& box, double divisor = 1);
+
+}  // namespace pelorium

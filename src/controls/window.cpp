@@ -1,0 +1,49 @@
+// Windows.
+#include "controls/window.h"
+
+#include <utility>
+
+#include "controls/control.h"
+
+namespace pelorium {
+
+Window::Window(ControlHost& host, std::string name, std::string caption)
+    : host_(host), name_(std::move(name)), caption_(std::move(caption)) {}
+
+void Window::SetCaption(std::string caption) {
+  caption_ = std::move(caption);
+  NotifyChanged();
+}
+
+void Window::Show() {
+  visible_ = true;
+  ++shows_;
+  NotifyChanged();
+}
+
+void Window::Hide() {
+  visible_ = false;
+  NotifyChanged();
+}
+
+void Window::MoveTo(double left, double top) {
+  left_ = left;
+  top_ = top;
+  NotifyChanged();
+}
+
+Control* Window::Find(std::string_view name) const {
+  const auto found = byName_.find(name);
+  return found == byName_.end() ? nullptr : found->second;
+}
+
+void Window::Adopt(Control& control) {
+  controls_.push_back(&control);
+  byName_.emplace(control.name(), &control);
+}
+
+void Window::NotifyChanged() {
+  if (host_.listener != nullptr) host_.listener->WindowChanged(*this);
+}
+
+}  // namespace pelorium

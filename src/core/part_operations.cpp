@@ -1,0 +1,23 @@
+// Operations on whole Parts.
+#include "core/part_operations.h"
+
+namespace pelorium {
+
+void SyncFaceCorners(ModelStore& model, int part) {
+  for (FaceRec& face : FaceRange(model, part, FirstFace(model, part), model.Part(part).maxfaces)) {
+    if (face.corner1pt < 0 || face.corner2pt < 0 || face.corner3pt < 0) continue;
+    const PointRec& p1 = model.Points(part, face.corner1pt);
+    const PointRec& p2 = model.Points(part, face.corner2pt);
+    const PointRec& p3 = model.Points(part, face.corner3pt);
+    face.c1X = p1.X, face.c1Y = p1.Y, face.c1Z = p1.Z;
+    face.c2X = p2.X, face.c2Y = p2.Y, face.c2Z = p2.Z;
+    face.c3X = p3.X, face.c3Y = p3.Y, face.c3Z = p3.Z;
+  }
+}
+
+std::string CountCaption(const ModelStore& model, int part) {
+  const PartHeader& header = model.Part(part);
+  return std::to_string(header.maxfaces) + "faces  points " + std::to_string(header.maxpoints);
+}
+
+}  // namespace pelorium

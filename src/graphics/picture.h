@@ -1,0 +1,100 @@
+// The drawing surface: 32-bit pixels 0x00BBGGRR row by row from the top, a pen, a user scale that may be negative,
+// and the drawing primitives. The same calls give the same pixels on every machine.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "base/colour.h"
+
+namespace pelorium {
+
+struct Pixel {
+  int x;  // from the left
+  int y;  // from the top
+};
+
+// A line shown over the picture and not part of it; in user units.
+struct OverlayLine {
+  float x0, y0, x1, y1;
+  Colour colour;
+};
+
+// Calls are recorded with their pixel positions as they come and drawn when the pixels are asked for. A picture that
+// is cleared and drawn again several times within one event is thus rasterised once.
+class Picture {
+ public:
+  static constexpr int kMaxSide = 16384;  // pixels
+
+  // Sides are held in 1..kMaxSide. The scale starts at one unit a pixel.
+  Picture(int width, int height);
+
+  int PixelWidth() const { return width_; }
+  int PixelHeight() const { return height_; }
+  double ScaleWidth() const { return scaleWidth_; }
+  double ScaleHeight() const { return scaleHeight_; }
+
+  // Units across the picture and down it. 0 is refused as a division by zero.
+  void SetScale(double scaleWidth, double scaleHeight);
+
+  // Gives the picture new pixels in its background colour; the scale stays.
+  void Resize(int width, int height);
+
+  // Fills with the background colour.
+  void Clear();
+
+  // A line in the pen's width: the pixel of its start is set, that of its end is not. Width 1 is an integer DDA
+  // along the longer axis.
+  void Line(float x0, float y0, float x1, float y1, Colour colour);
+  void Line(float x0, float y0, float x1, float y1) { Line(x0, y0, x1, y1, foreColour); }
+
+  // A disc whose diameter is the pen's width in pixels, whatever the scale. An odd width is centred on the pixel, an
+  // even one on the pixel's top left corner; a pixel belongs to it when its centre lies within width / 2.
+  void Dot(float x, float y, Colour colour);
+  void Dot(float x, float y) { Dot(x, y, foreColour); }
+
+  // The pixel under a point in user units, and the point (in user units) that a pixel stands for.
+  Pixel ToPixel(float x, float y) const;
+  float ToUserX(int pixelX) const;
+  float ToUserY(int pixelY) const;
+
+  // The colour of a pixel, -1 outside the picture.
+  int PixelAt(int x, int y) const;
+
+  // All pixels, row by row; copies into the picture, as many as it holds.
+  const std::vector<std::uint32_t>& Pixels() const;
+  void SetPixels(const std::vector<std::uint32_t>& pixels);
+
+  // Counts the changes, so that a screen knows whether it shows the present picture.
+  std::uint64_t Revision() const { return revision_; }
+
+  // The pen and the ground.
+  Colour foreColour = Rgb(224, 224, 224);
+  Colour backColour = Rgb(64, 64, 64);
+  int drawWidth = 1;
+
+  std::vector<OverlayLine> overlay;
+
+ private:
+  struct Call {
+    Pixel from, to;
+    Colour colour;
+    std::int16_t width;
+    bool isDot;
+  };
+
+  void Record(const Call& call);
+  void Rasterise() const;
+  void RasteriseLine(const Call& call) const;
+  void RasteriseDot(Pixel at, int width, Colour colour) const;
+  void FillSpan(int y, int left, int right, Colour colour) const;
+
+  int width_, height_;
+  double scaleWidth_, scaleHeight_;
+  mutable std::vector<std::uint32_t> pixels_;
+  mutable std::vector<Call> calls_;
+  mutable bool cleared_ = true;  // the ground is to be filled before the calls
+  std::uint64_t revision_ = 0;
+};
+
+}  // namespace pelorium

@@ -1,0 +1,29 @@
+// The platform with no screen.
+#include "platform/headless_platform.h"
+
+#include <chrono>
+#include <utility>
+
+#include "controls/window.h"
+
+namespace pelorium {
+
+std::string HeadlessPlatform::AskFileName(const FileDialogRequest& request) {
+  dialogs_.push_back(request);
+  if (answers_.empty()) return {};
+  std::string answer = std::move(answers_.front());
+  answers_.pop_front();
+  return answer;
+}
+
+void HeadlessPlatform::RunModal(Window& window) {
+  window.Show();
+  if (onModal) onModal(window);
+  window.Hide();
+}
+
+double HeadlessPlatform::ClockReading() {
+  return std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
+}
+
+}  // namespace pelorium

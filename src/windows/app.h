@@ -1,0 +1,108 @@
+// Ties the model, the windows and the platform together. `Deliver` is the only door for anything a person does.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "base/fault.h"
+#include "base/random_series.h"
+#include "controls/user_event.h"
+#include "controls/window.h"
+#include "core/model_store.h"
+#include "platform/platform.h"
+
+namespace pelorium {
+
+class EditByFace;
+class Form14;
+class Form31;
+class Form36;
+class Form5;
+class Form51;
+class Formulas;
+class FrmAbout;
+class FrmSplash;
+class HelpMe;
+class MDIForm1;
+class RevolveProf;
+
+// The pose of the shaded picture: turns in degrees and moves, as the GL matrix takes them.
+struct ShadedPose {
+  float RotX = 90, RotY = 0, RotZ = 0;
+  double ShadeMoveX = 0, ShadeMoveY = 0, ShadeMoveZ = 0;
+};
+
+class App {
+ public:
+  // `applicationPath` is the program's working folder. Builds all windows; Start makes them ready.
+  App(Platform& platform, std::filesystem::path applicationPath);
+  ~App();
+  App(const App&) = delete;
+  App& operator=(const App&) = delete;
+
+  // The load of the main frame: fills the tables, sets the limits of the controls, shows the first windows.
+  void Start();
+
+  // Does what a person did. A fault that no handler trapped ends the handler and is noted. An event for a control
+  // that does not exist or is disabled does nothing and returns false.
+  bool Deliver(const UserEvent& event);
+
+  // In the order of their building; a window of that name, or nullptr.
+  std::vector<Window*> windows() const;
+  Window* FindWindow(std::string_view name) const;
+
+  Platform& platform;
+  const std::filesystem::path applicationPath;
+  FaultLog faults;
+  ControlHost host;
+  RandomSeries random;
+  ModelStore model;
+
+  int TessCount = 1;     // number of the next free point while a mesh is clicked together
+  ShadedPose shadedPose;
+  bool started = false;  // the load of the main frame is over
+  bool exitRequested = false;
+
+  // While a generator, a load, an import or a follow of new counts runs, automatic actions (Auto Revolve and its
+  // like) are dropped. Counts the nested ones.
+  int automaticActionsHeld = 0;
+
+  // Every event as it is delivered, and every file dialog's answer: for a journal.
+  std::function<void(const UserEvent&)> onEvent;
+
+  // Windows by the system's names. Declared in the order of their building.
+ private:
+  template <typename WindowType>
+  WindowType& Add();
+  std::vector<std::unique_ptr<Window>> windows_;
+
+ public:
+  FrmSplash& frmSplash;
+  MDIForm1& mdiForm1;
+  Form51& form51;
+  Form5& form5;
+  Formulas& formulas;
+  EditByFace& editbyface;
+  RevolveProf& revolveprof;
+  Form31& form31;
+  Form14& form14;
+  HelpMe& helpme;
+  FrmAbout& frmAbout;
+  Form36& form36;
+};
+
+// Holds the automatic actions back as long as it lives.
+class HoldAutomaticActions {
+ public:
+  explicit HoldAutomaticActions(App& app) : app_(app) { ++app_.automaticActionsHeld; }
+  ~HoldAutomaticActions() { --app_.automaticActionsHeld; }
+  HoldAutomaticActions(const HoldAutomaticActions&) = delete;
+  HoldAutomaticActions& operator=(const HoldAutomaticActions&) = delete;
+
+ private:
+  App& app_;
+};
+
+}  // namespace pelorium
