@@ -90,6 +90,9 @@ void WriteFile(const std::filesystem::path& path, const FileWriter& write) {
 
 void ReplaceFile(const std::filesystem::path& path, const FileWriter& write) {
   const std::filesystem::path target = Target(path);
+  std::error_code ignored;
+  const auto old = std::filesystem::status(target, ignored);
+  if (std::filesystem::exists(old) && !std::filesystem::is_regular_file(old)) return WriteFile(target, write);
   std::filesystem::path beside = target;
   beside += ".saving-" + std::to_string(getpid());
   try {
@@ -97,12 +100,9 @@ void ReplaceFile(const std::filesystem::path& path, const FileWriter& write) {
     WriteAndFlush(file, write);
     file.Sync();
     file.Close();
-    std::error_code ignored;
-    const auto old = std::filesystem::status(target, ignored);
     if (std::filesystem::exists(old)) std::filesystem::permissions(beside, old.permissions(), ignored);
     if (std::rename(beside.c_str(), target.c_str()) != 0) RaiseFileError(target);
   } catch (...) {
-    std::error_code ignored;
     std::filesystem::remove(beside, ignored);
     throw;
   }

@@ -18,7 +18,7 @@ std::string ReadFile(const std::filesystem::path& path);
 void WriteFile(const std::filesystem::path& path, const FileWriter& write);
 
 // Writes beside the file and renames over it when every byte is on its way to the disk. On any fault the old file
-// stays as it was and nothing is left beside it.
+// stays as it was and nothing is left beside it. A device or a pipe is written in place.
 void ReplaceFile(const std::filesystem::path& path, const FileWriter& write);
 
 // `folder` + native separator + `name`. `name` may begin with "\" or "/" and hold either as separator.

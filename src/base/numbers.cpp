@@ -1,11 +1,11 @@
 // Number forms and rounding. Formatting goes through std::to_chars, which no locale reaches.
 #include "base/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 
 #include "base/fault.h"
 
@@ -71,6 +71,7 @@ std::string Shortest(Real value) {
 }
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsExponentMark(char c) { return c == 'E' || c == 'e' || c == 'D' || c == 'd'; }
 
 std::size_t SkipDigits(std::string_view text, std::size_t at) {
   while (at < text.size() && IsDigit(text[at])) ++at;
@@ -89,13 +90,29 @@ std::size_t NumberLength(std::string_view text) {
     at = fraction;
   }
   if (mantissaDigits == 0) return 0;
-  if (at < text.size() && std::strchr("EeDd", text[at]) != nullptr) {
+  if (at < text.size() && IsExponentMark(text[at])) {
     std::size_t exponent = at + 1;
     if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
     const std::size_t end = SkipDigits(text, exponent);
     if (end > exponent) at = end;
   }
   return at;
+}
+
+// Of a number out of a double's range: whether it is too small rather than too large. Its first digit that is not 0
+// tells, by its place and the exponent.
+bool IsTooSmall(std::string_view number) {
+  const std::size_t mark = std::min(number.find_first_of("Ee"), number.size());
+  const auto point = static_cast<std::int64_t>(std::min(number.find('.'), mark));
+  const auto first = static_cast<std::int64_t>(number.find_first_of("123456789"));
+  std::int64_t exponent = 0;
+  if (mark < number.size()) {
+    number.remove_prefix(mark + 1);
+    if (number.front() == '+') number.remove_prefix(1);
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), exponent);
+    if (result.ec == std::errc::result_out_of_range) return number.front() == '-';
+  }
+  return exponent < first - point;
 }
 
 // Converts text that NumberLength has measured.
@@ -111,11 +128,7 @@ double Convert(std::string_view number) {
   double value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
-    // Too small for a double is 0; a negative exponent can only have become too small.
-    const std::size_t e = number.find_first_of("Ee");
-    const bool tiny = e == std::string_view::npos ? number.find_first_of("123456789") > number.find('.')
-                                                  : number[e + 1] == '-';
-    if (tiny) return 0;
+    if (IsTooSmall(number)) return 0;
     throw Fault(FaultKind::Overflow, std::string(number.substr(0, 40)));
   }
   return value;

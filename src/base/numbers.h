@@ -55,8 +55,9 @@ Field Narrow(std::int64_t value);
 template <std::integral Field>
 Field ToInteger(double value) {
   const double rounded = RoundHalfEven(value);
+  // One past the maximum is a power of two, which a double holds even when it does not hold the maximum.
   if (!(rounded >= static_cast<double>(std::numeric_limits<Field>::min()) &&
-        rounded <= static_cast<double>(std::numeric_limits<Field>::max()))) {
+        rounded < static_cast<double>(std::numeric_limits<Field>::max() / 2 + 1) * 2)) {
     RaiseOverflow(value);
   }
   return static_cast<Field>(rounded);

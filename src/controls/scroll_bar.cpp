@@ -50,6 +50,17 @@ int ScrollBar::Clamped(double value) const {
   return value < high ? static_cast<int>(RoundHalfEven(value)) : high;
 }
 
+void ScrollBar::Drag(double value) {
+  movedByPerson = true;
+  SetValue(Clamped(value));
+}
+
+void ScrollBar::Show(double shown) {
+  value_ = Clamped(shown * divisor_);
+  NotifyChanged();
+  if (mirror_ != nullptr) mirror_->SetText(GeneralForm(shown));
+}
+
 void ScrollBar::SetMirror(TextBox& box, double divisor) {
   mirror_ = &box;
   divisor_ = divisor;

@@ -36,7 +36,13 @@ class ScrollBar : public Control {
   // The nearest value inside min..max.
   int Clamped(double value) const;
   // As a person moves it: clamped, then set.
-  void Drag(double value) { SetValue(Clamped(value)); }
+  void Drag(double value);
+  // True when a person moved the bar since this was last set false.
+  bool movedByPerson = false;
+
+  // Shows a record's value: the bar goes to the nearest it can, the mirror shows the number itself, and no handler
+  // runs, so that nothing is written back.
+  void Show(double shown);
 
   // `box` shows value / divisor in general form from now on.
   void SetMirror(TextBox& box, double divisor);

@@ -66,7 +66,9 @@ ModelStore::ModelStore()
       parts_(kParts),
       profiles_(kProfileSlots) {}
 
-MaterialRec& ModelStore::MaterialGroups(int group) { return materials_[Checked(group, kGroupSlots, "group")]; }
+MaterialRec& ModelStore::MaterialGroups(int group) {
+  return materials_[Checked(group, kGroupSlots, "group")];
+}
 const MaterialRec& ModelStore::MaterialGroups(int group) const {
   return materials_[Checked(group, kGroupSlots, "group")];
 }

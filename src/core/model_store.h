@@ -1,9 +1,9 @@
 // The document: fixed-size tables of Parts (triangle meshes), profiles (drawn polylines) and material groups.
 //
-// A Part is one mesh: points and faces numbered from 1. The user works on Parts 0 and 1, slot 2 is a temporary store
-// of points, slot 3 the copy buffer. A profile is one polyline of up to 37 points numbered from 0; a point's number
-// is also called a layer. What a Part or profile has once stands in a header of its own, so that no face or point
-// can overwrite it; files and numbering are as if it stood in element 1.
+// A Part is one mesh: points and faces numbered from 1. The user works on Parts 0 and 1, slot 2 is a
+// temporary store of points, slot 3 the copy buffer. A profile is one polyline of up to 37 points numbered
+// from 0; a point's number is also called a layer. What a Part or profile has once stands in a header of its
+// own, so that no face or point can overwrite it; files and numbering are as if it stood in element 1.
 #pragma once
 
 #include <cstdint>
@@ -33,29 +33,30 @@ struct Vec3 {
 // A point of a mesh. Small: the views walk tens of thousands of them at each mouse move.
 struct PointRec {
   double X = 1, Y = 1, Z = 1;
-  double u = 1, v = 1;      // texture coordinate of the UV point of this number
-  std::int16_t onoff = 1;   // 1 = on (taken part in generators and exports)
+  double u = 1, v = 1;     // texture coordinate of the UV point of this number
+  std::int16_t onoff = 1;  // 1 = on (taken part in generators and exports)
 };
 
-// A point of a profile. One record is three things: the drawn point, the extrude's settings of the layer of that
-// number, and those of the section (point of the ring) of that number. Angles in degrees.
+// A point of a profile. One record is three things: the drawn point, the extrude's settings of the layer of
+// that number, and those of the section (point of the ring) of that number. Angles in degrees.
 struct ProfilePointRec {
   double X = 0, Y = 0, Z = 0;
-  double rotateX = 0, turnY = 0, spinZ = 0;                // layer
-  double multX = 1, multY = 1, multZ = 1;                  // layer, section, layer
-  double multZb = 1;                                       // section
-  double moveX = 0, moveY = 0, moveZ = 0;                  // layer
-  double secMoveX = 0, secMoveY = 0, secMoveZ = 0;         // section
-  double secRotateX = 0, secTurnY = 0, secSpinZ = 0;       // section
-  double secMultX = 1, secMultY = 1;                       // section
-  double addXAmt1 = 0, addYAmt1 = 0, addZAmt1 = 0;         // section, layer, section: amounts of effector profile 1
-  double addXAmt2 = 0, addYAmt2 = 0, addZAmt2 = 0;         // the same of effector profile 2
+  double rotateX = 0, turnY = 0, spinZ = 0;           // layer
+  double multX = 1, multY = 1, multZ = 1;             // layer, section, layer
+  double multZb = 1;                                  // section
+  double moveX = 0, moveY = 0, moveZ = 0;             // layer
+  double secMoveX = 0, secMoveY = 0, secMoveZ = 0;    // section
+  double secRotateX = 0, secTurnY = 0, secSpinZ = 0;  // section
+  double secMultX = 1, secMultY = 1;                  // section
+  double addXAmt1 = 0, addYAmt1 = 0, addZAmt1 = 0;  // section, layer, section: amounts of effector profile 1
+  double addXAmt2 = 0, addYAmt2 = 0, addZAmt2 = 0;  // the same of effector profile 2
 };
 
 // What a profile has once.
 struct ProfileHeader {
   std::int16_t first = 0;
-  std::int16_t count = 0;  // the pen's slot: points 0..count-1 are drawn, slot `count` ends the last segment; 0..36
+  std::int16_t count =
+      0;  // the pen's slot: points 0..count-1 are drawn, slot `count` ends the last segment; 0..36
   double genRotateX = 0, genTurnY = 0, genSpinZ = 0;
   double genMoveX = 0, genMoveY = 0, genMoveZ = 0;
   double genMultX = 1, genMultY = 1, genMultZ = 1;
@@ -76,7 +77,7 @@ struct FaceRec {
   double c3X = 0, c3Y = 0, c3Z = 0;
   std::int32_t corner1pt = 1, corner2pt = 1, corner3pt = 1;  // point numbers; 1, 1, 1 is an empty face
   std::int16_t onoff = 1;
-  std::int16_t group = 0;               // material group 0..41
+  std::int16_t group = 0;                  // material group 0..41
   std::int16_t vt1 = 0, vt2 = 0, vt3 = 0;  // UV point numbers of the corners
 };
 
@@ -87,8 +88,8 @@ struct PartHeader {
   std::string PartName;
   std::int16_t vtcount = 1;      // UV points
   std::int16_t vtfacecount = 1;  // last face with UV points
-  std::int16_t Sections = 31;    // last point number of a ring, counted from 0: rings have Sections + 1 points
-  std::int16_t count = 0;        // `count` of the profile that the Part was made from
+  std::int16_t Sections = 31;  // last point number of a ring, counted from 0: rings have Sections + 1 points
+  std::int16_t count = 0;      // `count` of the profile that the Part was made from
 };
 
 struct MaterialRec {
@@ -162,8 +163,8 @@ Range<const PointRec> PointRange(const ModelStore& model, int part, int from, in
 // The first face to visit: a file may hold a minfaces of 0, and face 0 is no real face.
 int FirstFace(const ModelStore& model, int part);
 
-// Fills all tables with the defaults of the start. `random` gives each group colours of its own: nine numbers a
-// group, floor(r * 255) / 256, in the order Ka, Ks, Kd with R, G, B each.
+// Fills all tables with the defaults of the start. `random` gives each group colours of its own: nine numbers
+// a group, floor(r * 255) / 256, in the order Ka, Ks, Kd with R, G, B each.
 void ResetModel(ModelStore& model, RandomSeries& random);
 
 }  // namespace pelorium

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 #include "base/fault.h"
 
@@ -12,8 +13,8 @@ namespace pelorium {
 
 namespace {
 
-// Pixels further out than this are drawn as if they lay here: far outside any picture, and small enough that the
-// line arithmetic cannot overflow.
+// Pixels further out than this are drawn as if they lay here: far outside any picture, and small enough that
+// the line arithmetic cannot overflow.
 constexpr double kFarAway = 1 << 24;
 constexpr int kWidestStoredDot = 16;
 constexpr std::size_t kMaxPendingCalls = 1 << 20;
@@ -24,8 +25,8 @@ int ToPixelNumber(double user, int pixels, double scale) {
   return static_cast<int>(std::clamp(at, -kFarAway, kFarAway));
 }
 
-// Half the length of a dot's row, in pixels: the row at distance `dy` from the centre covers [-half, half) about it.
-// `offset` is 0 for odd widths (centre of a pixel) and 0.5 for even ones (corner of a pixel).
+// Half the length of a dot's row, in pixels: the row at distance `dy` from the centre covers [-half, half)
+// about it. `offset` is 0 for odd widths (centre of a pixel) and 0.5 for even ones (corner of a pixel).
 int HalfSpan(int width, int row, double offset) {
   const double dy = row + offset;
   const double rest = width * width / 4.0 - dy * dy;
@@ -79,12 +80,21 @@ void Picture::Clear() {
 }
 
 void Picture::Line(float x0, float y0, float x1, float y1, Colour colour) {
-  Record({ToPixel(x0, y0), ToPixel(x1, y1), colour, static_cast<std::int16_t>(drawWidth), false});
+  Record({ToPixel(x0, y0), ToPixel(x1, y1), colour, StoredWidth(), false});
 }
 
-void Picture::Dot(float x, float y, Colour colour) {
-  const Pixel at = ToPixel(x, y);
-  Record({at, at, colour, static_cast<std::int16_t>(drawWidth), true});
+void Picture::Dot(float x, float y, Colour colour) { DotAt(ToPixel(x, y), colour); }
+
+void Picture::LineBetween(Pixel from, Pixel to) {
+  Record({from, to, foreColour, StoredWidth(), false});
+}
+
+void Picture::DotAt(Pixel at, Colour colour) {
+  Record({at, at, colour, StoredWidth(), true});
+}
+
+std::int16_t Picture::StoredWidth() const {
+  return static_cast<std::int16_t>(std::clamp<int>(drawWidth, 1, std::numeric_limits<std::int16_t>::max()));
 }
 
 void Picture::Record(const Call& call) {
@@ -102,8 +112,8 @@ float Picture::ToUserY(int pixelY) const { return static_cast<float>(pixelY * sc
 
 int Picture::PixelAt(int x, int y) const {
   if (x < 0 || y < 0 || x >= width_ || y >= height_) return -1;
-  return static_cast<int>(Pixels()[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
-                                   static_cast<std::size_t>(x)]);
+  return static_cast<int>(
+      Pixels()[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x)]);
 }
 
 const std::vector<std::uint32_t>& Picture::Pixels() const {
@@ -130,7 +140,8 @@ void Picture::Rasterise() const {
   calls_.clear();
 }
 
-// Walks the longer axis pixel by pixel. `error` carries the fraction of the other axis in units of 1 / length.
+// Walks the longer axis pixel by pixel. `error` carries the fraction of the other axis in units of 1 /
+// length.
 void Picture::RasteriseLine(const Call& call) const {
   const std::int64_t dx = call.to.x - call.from.x, dy = call.to.y - call.from.y;
   const bool alongX = std::llabs(dx) >= std::llabs(dy);

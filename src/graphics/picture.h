@@ -1,5 +1,5 @@
-// The drawing surface: 32-bit pixels 0x00BBGGRR row by row from the top, a pen, a user scale that may be negative,
-// and the drawing primitives. The same calls give the same pixels on every machine.
+// The drawing surface: 32-bit pixels 0x00BBGGRR row by row from the top, a pen, a user scale that may be
+// negative, and the drawing primitives. The same calls give the same pixels on every machine.
 #pragma once
 
 #include <cstdint>
@@ -20,8 +20,8 @@ struct OverlayLine {
   Colour colour;
 };
 
-// Calls are recorded with their pixel positions as they come and drawn when the pixels are asked for. A picture that
-// is cleared and drawn again several times within one event is thus rasterised once.
+// Calls are recorded with their pixel positions as they come and drawn when the pixels are asked for. A
+// picture that is cleared and drawn again several times within one event is thus rasterised once.
 class Picture {
  public:
   static constexpr int kMaxSide = 16384;  // pixels
@@ -43,15 +43,21 @@ class Picture {
   // Fills with the background colour.
   void Clear();
 
-  // A line in the pen's width: the pixel of its start is set, that of its end is not. Width 1 is an integer DDA
-  // along the longer axis.
+  // A line in the pen's width: the pixel of its start is set, that of its end is not. Width 1 is an integer
+  // DDA along the longer axis.
   void Line(float x0, float y0, float x1, float y1, Colour colour);
   void Line(float x0, float y0, float x1, float y1) { Line(x0, y0, x1, y1, foreColour); }
 
-  // A disc whose diameter is the pen's width in pixels, whatever the scale. An odd width is centred on the pixel, an
-  // even one on the pixel's top left corner; a pixel belongs to it when its centre lies within width / 2.
+  // A disc whose diameter is the pen's width in pixels, whatever the scale. An odd width is centred on the
+  // pixel, an even one on the pixel's top left corner; a pixel belongs to it when its centre lies within
+  // width / 2.
   void Dot(float x, float y, Colour colour);
   void Dot(float x, float y) { Dot(x, y, foreColour); }
+
+  // The same between pixels, in the pen's colour: for shapes whose corners serve several lines.
+  void LineBetween(Pixel from, Pixel to);
+  void DotAt(Pixel at) { DotAt(at, foreColour); }
+  void DotAt(Pixel at, Colour colour);
 
   // The pixel under a point in user units, and the point (in user units) that a pixel stands for.
   Pixel ToPixel(float x, float y) const;
@@ -83,6 +89,7 @@ class Picture {
     bool isDot;
   };
 
+  std::int16_t StoredWidth() const;
   void Record(const Call& call);
   void Rasterise() const;
   void RasteriseLine(const Call& call) const;

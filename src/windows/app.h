@@ -1,4 +1,5 @@
-// Ties the model, the windows and the platform together. `Deliver` is the only door for anything a person does.
+// Ties the model, the windows and the platform together. `Deliver` is the only door for anything a person
+// does.
 #pragma once
 
 #include <filesystem>
@@ -45,8 +46,8 @@ class App {
   // The load of the main frame: fills the tables, sets the limits of the controls, shows the first windows.
   void Start();
 
-  // Does what a person did. A fault that no handler trapped ends the handler and is noted. An event for a control
-  // that does not exist or is disabled does nothing and returns false.
+  // Does what a person did. A fault that no handler trapped ends the handler and is noted. An event for a
+  // control that does not exist or is disabled does nothing and returns false.
   bool Deliver(const UserEvent& event);
 
   // In the order of their building; a window of that name, or nullptr.
@@ -60,13 +61,13 @@ class App {
   RandomSeries random;
   ModelStore model;
 
-  int TessCount = 1;     // number of the next free point while a mesh is clicked together
+  int TessCount = 1;  // number of the next free point while a mesh is clicked together
   ShadedPose shadedPose;
   bool started = false;  // the load of the main frame is over
   bool exitRequested = false;
 
-  // While a generator, a load, an import or a follow of new counts runs, automatic actions (Auto Revolve and its
-  // like) are dropped. Counts the nested ones.
+  // While a generator, a load, an import or a follow of new counts runs, automatic actions (Auto Revolve and
+  // its like) are dropped. Counts the nested ones.
   int automaticActionsHeld = 0;
 
   // Every event as it is delivered, and every file dialog's answer: for a journal.

@@ -29,7 +29,8 @@ std::string MouseLine(const char* what, const std::string& place, const UserEven
 }  // namespace
 
 std::string ScriptWord(const std::string& text) {
-  const bool plain = !text.empty() && text[0] != '#' && text.find_first_of(" \t\"\\\r\n") == std::string::npos;
+  const bool plain =
+      !text.empty() && text[0] != '#' && text.find_first_of(" \t\"\\\r\n") == std::string::npos;
   if (plain) return text;
   std::string word = "\"";
   for (const char c : text) {
@@ -42,17 +43,26 @@ std::string ScriptWord(const std::string& text) {
 std::string ScriptLine(const UserEvent& event) {
   const std::string place = event.window + "." + event.control;
   switch (event.action) {
-    case UserAction::Press: return "press " + place + ClickWords(event.click, false);
-    case UserAction::Drag: return "drag " + place + " " + ShortestForm(event.value);
-    case UserAction::Type: return "type " + place + " " + ScriptWord(event.text);
-    case UserAction::DoubleClick: return "doubleclick " + place;
-    case UserAction::Key: return "key " + place + " " + ScriptWord(event.text);
-    case UserAction::MouseDown: return MouseLine("down", place, event);
-    case UserAction::MouseMove: return MouseLine("move", place, event);
-    case UserAction::MouseUp: return MouseLine("up", place, event);
+    case UserAction::Press:
+      return "press " + place + ClickWords(event.click, false);
+    case UserAction::Drag:
+      return "drag " + place + " " + ShortestForm(event.value);
+    case UserAction::Type:
+      return "type " + place + " " + ScriptWord(event.text);
+    case UserAction::DoubleClick:
+      return "doubleclick " + place;
+    case UserAction::Key:
+      return "key " + place + " " + ScriptWord(event.text);
+    case UserAction::MouseDown:
+      return MouseLine("down", place, event);
+    case UserAction::MouseMove:
+      return MouseLine("move", place, event);
+    case UserAction::MouseUp:
+      return MouseLine("up", place, event);
     case UserAction::Resize:
       return "resize " + place + " " + std::to_string(event.width) + " " + std::to_string(event.height);
-    case UserAction::CloseWindow: return "set " + event.window + ".visible 0";
+    case UserAction::CloseWindow:
+      return "set " + event.window + ".visible 0";
   }
   return {};
 }

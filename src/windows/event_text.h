@@ -7,7 +7,8 @@
 
 namespace pelorium {
 
-// A word as it stands in a script: in double quotes when it is empty or holds blanks, quotes, "\" or a leading "#".
+// A word as it stands in a script: in double quotes when it is empty or holds blanks, quotes, "\" or a
+// leading "#".
 std::string ScriptWord(const std::string& text);
 
 // The line (without line end) that does the same when a script plays it.

@@ -1,0 +1,10 @@
+// Colours and style of the whole face.
+#pragma once
+
+class QApplication;
+
+namespace pelorium {
+
+void SetAppearance(QApplication& application);
+
+}  // namespace pelorium

@@ -1,0 +1,149 @@
+// The whole face.
+#include "desktop/face.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/picture_widget.h"
+#include "desktop/qt_text.h"
+#include "windows/app.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr char kFrameWindow[] = "MDIForm1";
+constexpr char kSplashWindow[] = "frmSplash";
+constexpr std::chrono::milliseconds kBetweenProgress(50);
+
+Window& Needed(App& app, const char* name) {
+  Window* window = app.FindWindow(name);
+  if (window == nullptr) throw Fault(FaultKind::InvalidValue, std::string("no window ") + name);
+  return *window;
+}
+
+}  // namespace
+
+Face::Face(App& app, Dispatcher& dispatcher)
+    : app_(app), dispatcher_(dispatcher), builder_(dispatcher, views_) {
+  app_.host.listener = this;
+  dispatcher_.onDelivered = [this] { Refresh(); };
+  Window& frameWindow = Needed(app, kFrameWindow);
+  Window& splashWindow = Needed(app, kSplashWindow);
+  frame_ = std::make_unique<MainWindow>(frameWindow, dispatcher_);
+  splash_ = std::make_unique<SplashWindow>(splashWindow, builder_, views_, dispatcher_);
+  for (Window* window : app_.windows()) {
+    if (window == &frameWindow || window == &splashWindow) continue;
+    windowViews_.push_back(std::make_unique<WindowView>(*window, builder_, dispatcher_));
+    if (window->visible()) changedWindows_.push_back(window);
+  }
+}
+
+Face::~Face() {
+  app_.host.listener = nullptr;
+  dispatcher_.onDelivered = nullptr;
+}
+
+void Face::Begin() {
+  Window& splash = Needed(app_, kSplashWindow);
+  if (!splash.visible() && !app_.started) splash.Show();
+  Refresh();
+}
+
+void Face::ControlChanged(Control& control) {
+  changedControls_.insert(&control);
+  if (control.kind() == ControlKind::ProgressBar) ShowProgress(control);
+  ScheduleRefresh();
+}
+
+void Face::WindowChanged(Window& window) {
+  changedWindows_.erase(std::remove(changedWindows_.begin(), changedWindows_.end(), &window),
+                        changedWindows_.end());
+  changedWindows_.push_back(&window);
+  ScheduleRefresh();
+}
+
+// Changes outside an event are rare (a timer of the program's own); they are shown all the same.
+void Face::ScheduleRefresh() {
+  if (std::exchange(isRefreshDue_, true)) return;
+  QTimer::singleShot(0, frame_.get(), [this] {
+    if (isRefreshDue_) Refresh();
+  });
+}
+
+void Face::Refresh() {
+  isRefreshDue_ = false;
+  RefreshControls();
+  RefreshWindows();
+  RefreshPictures();
+  if (app_.exitRequested) QCoreApplication::quit();
+}
+
+void Face::RefreshControls() {
+  for (Control* control : std::exchange(changedControls_, {})) {
+    if (control->kind() == ControlKind::MenuItem) {
+      frame_->SyncMenuItem(*control);
+    } else if (const auto found = views_.find(control); found != views_.end()) {
+      found->second->Sync();
+    }
+  }
+}
+
+void Face::RefreshWindows() {
+  if (changedWindows_.empty()) return;
+  splash_->Sync();
+  frame_->SyncFrame();
+  for (const Window* window : std::exchange(changedWindows_, {})) {
+    if (WindowView* view = ViewOf(*window)) frame_->Sync(*view);
+  }
+}
+
+void Face::RefreshPictures() {
+  for (const auto& [control, view] : views_) {
+    if (control->kind() == ControlKind::PictureBox) static_cast<PictureWidget*>(view)->ShowPresent();
+  }
+}
+
+void Face::ShowProgress(Control& control) {
+  const auto found = views_.find(&control);
+  const auto now = std::chrono::steady_clock::now();
+  if (found == views_.end() || now - lastProgress_ < kBetweenProgress) return;
+  lastProgress_ = now;
+  found->second->Sync();
+  found->second->widget()->repaint();
+}
+
+WindowView* Face::ViewOf(const Window& window) {
+  for (const auto& view : windowViews_) {
+    if (&view->window() == &window) return view.get();
+  }
+  return nullptr;
+}
+
+void Face::RunModal(Window& window) {
+  WindowView* view = ViewOf(window);
+  if (view == nullptr) return;
+  view->SetModal(true);
+  window.Show();
+  Refresh();
+  QDialog& dialog = view->AsDialog(frame_.get());
+  dialog.setWindowTitle(CaptionToShow(window.caption()));
+  dialog.resize(view->ComfortableSize(frame_->size()));
+  dialog.show();
+  QEventLoop loop;
+  const auto previous = std::exchange(dispatcher_.onDelivered, [this, &window, &loop] {
+    Refresh();
+    if (!window.visible()) loop.quit();
+  });
+  dispatcher_.RunNested([&] { loop.exec(); });
+  dispatcher_.onDelivered = previous;
+  dialog.hide();
+  window.Hide();
+  view->TakeShow();
+  view->SetModal(false);
+}
+
+}  // namespace pelorium

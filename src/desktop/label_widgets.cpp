@@ -1,0 +1,61 @@
+// Labels, titled boxes and progress bars on the screen.
+#include "desktop/label_widgets.h"
+
+#include "desktop/dispatcher.h"
+#include "desktop/qt_text.h"
+
+namespace pelorium {
+
+namespace {
+
+// A hand over what can be clicked on though it does not look like a button.
+void ShowWhetherClickable(QWidget& widget, const Control& control) {
+  if (control.onClick || control.onDoubleClick) widget.setCursor(Qt::PointingHandCursor);
+}
+
+}  // namespace
+
+LabelWidget::LabelWidget(Control& label, Dispatcher& dispatcher, QWidget* parent)
+    : QLabel(parent), label_(label) {
+  setTextFormat(Qt::PlainText);
+  if (label.kind() == ControlKind::Frame) {
+    setFrameStyle(QFrame::StyledPanel);
+    setMargin(4);
+  }
+  ShowWhetherClickable(*this, label);
+  Adopt(*this, label, dispatcher);
+  LabelWidget::Sync();
+}
+
+void LabelWidget::Sync() {
+  const QString caption = CaptionToShow(label_.caption());
+  if (text() != caption) setText(caption);
+  SyncCommon(*this, label_);
+}
+
+GroupWidget::GroupWidget(Control& frame, Dispatcher& dispatcher, QWidget* parent)
+    : QGroupBox(parent), frame_(frame) {
+  ShowWhetherClickable(*this, frame);
+  Adopt(*this, frame, dispatcher);
+  GroupWidget::Sync();
+}
+
+void GroupWidget::Sync() {
+  setTitle(CaptionToShow(frame_.caption()));
+  SyncCommon(*this, frame_);
+}
+
+ProgressWidget::ProgressWidget(ProgressBar& bar, Dispatcher& dispatcher, QWidget* parent)
+    : QProgressBar(parent), bar_(bar) {
+  setTextVisible(false);
+  Adopt(*this, bar, dispatcher);
+  ProgressWidget::Sync();
+}
+
+void ProgressWidget::Sync() {
+  setRange(0, bar_.max());
+  setValue(bar_.value());
+  SyncCommon(*this, bar_);
+}
+
+}  // namespace pelorium

@@ -1,0 +1,183 @@
+// Builds the widgets of a window from its layout.
+#include "desktop/layout_builder.h"
+
+#include <QGroupBox>
+#include <algorithm>
+
+#include "desktop/flow_layout.h"
+#include "desktop/label_widgets.h"
+#include "desktop/qt_text.h"
+#include "desktop/view_factory.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr int kGap = 6;                // pixels between widgets
+constexpr int kComfortableFlow = 400;  // pixels: a few buttons a row
+constexpr int kWidestLabel = 190;      // pixels: longer texts before a bar wrap
+constexpr int kLabelColumn = 0, kBarColumn = 1, kFirstBoxColumn = 2;
+
+bool IsAligned(const LayoutItem& item) {
+  return item.kind == LayoutKind::BarRow || (item.kind == LayoutKind::Single && !item.title.empty());
+}
+
+bool IsSingle(const LayoutItem& item, ControlKind kind) {
+  return item.kind == LayoutKind::Single && !item.controls.empty() && item.controls[0]->kind() == kind;
+}
+
+bool HoldsPicture(const LayoutItem& item) {
+  return IsSingle(item, ControlKind::PictureBox) ||
+         (item.kind != LayoutKind::Frame && std::any_of(item.items.begin(), item.items.end(), HoldsPicture));
+}
+
+// Upright bars stand beside the picture that they move.
+bool IsUprightBar(const LayoutItem& item, const LayoutItem& row) {
+  return IsSingle(item, ControlKind::ScrollBar) && item.controls[0]->name().starts_with("VScroll") &&
+         HoldsPicture(row);
+}
+
+int ColumnsOf(const std::vector<LayoutItem>& items) {
+  std::size_t columns = kFirstBoxColumn;
+  for (const LayoutItem& item : items) {
+    if (item.kind == LayoutKind::BarRow) columns = std::max(columns, item.controls.size() + 1);
+  }
+  return static_cast<int>(columns);
+}
+
+QLabel* MakeText(const std::string& text, QWidget* parent) {
+  auto* label = new QLabel(CaptionToShow(text), parent);
+  if (label->sizeHint().width() > kWidestLabel) {
+    label->setWordWrap(true);
+    label->setFixedWidth(kWidestLabel);
+  }
+  return label;
+}
+
+template <typename LayoutType>
+LayoutType* WithoutMargins(LayoutType* layout) {
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(kGap);
+  return layout;
+}
+
+bool AnyStretches(const std::vector<LayoutItem>& items) {
+  return std::any_of(items.begin(), items.end(), [](const LayoutItem& item) { return item.stretches; });
+}
+
+}  // namespace
+
+QWidget* LayoutBuilder::Build(const Window& window, QWidget* parent) {
+  auto* content = new QWidget(parent);
+  const LayoutItem& layout = window.layout();
+  const bool isDeclared = !layout.items.empty() || !layout.controls.empty();
+  auto* around = WithoutMargins(new QVBoxLayout(content));
+  around->setContentsMargins(8, 8, 8, 8);
+  around->addWidget(isDeclared ? Make(layout, content) : MakeFlow(window.controls(), content));
+  return content;
+}
+
+QWidget* LayoutBuilder::Make(const LayoutItem& item, QWidget* parent) {
+  switch (item.kind) {
+    case LayoutKind::Column:
+      return MakeColumn(item.items, new QWidget(parent));
+    case LayoutKind::Row:
+      return MakeRow(item, parent);
+    case LayoutKind::Frame:
+      return MakeFrame(item, parent);
+    case LayoutKind::Flow:
+      return MakeFlow(item.controls, parent);
+    case LayoutKind::BarRow:
+    case LayoutKind::Single:
+      break;
+  }
+  return IsAligned(item) ? MakeStandAlone(item, parent) : MakeControl(*item.controls.at(0), parent);
+}
+
+// One grid for the whole column, so that bars and boxes align though other things stand between them.
+QWidget* LayoutBuilder::MakeColumn(const std::vector<LayoutItem>& items, QWidget* column) {
+  auto* grid = WithoutMargins(new QGridLayout(column));
+  if (qobject_cast<QGroupBox*>(column) != nullptr) grid->setContentsMargins(8, 6, 8, 8);
+  const int columns = ColumnsOf(items);
+  grid->setColumnStretch(kBarColumn, 1);
+  int row = 0;
+  for (const LayoutItem& item : items) {
+    if (IsAligned(item)) {
+      AddLabelled(item, *grid, row, column);
+    } else {
+      grid->addWidget(Make(item, column), row, 0, 1, columns);
+    }
+    grid->setRowStretch(row++, item.stretches ? 1 : 0);
+  }
+  if (!AnyStretches(items)) grid->setRowStretch(row, 1);
+  return column;
+}
+
+void LayoutBuilder::AddLabelled(const LayoutItem& item, QGridLayout& grid, int row, QWidget* column) {
+  QLabel* label = MakeText(item.title, column);
+  grid.addWidget(label, row, kLabelColumn, Qt::AlignVCenter);
+  const bool isOnlyOne = item.controls.size() == 1;
+  grid.addWidget(MakeControl(*item.controls.at(0), column), row, kBarColumn, 1, isOnlyOne ? -1 : 1);
+  for (std::size_t i = 1; i < item.controls.size(); ++i) {
+    const int at = kFirstBoxColumn + static_cast<int>(i) - 1;
+    grid.addWidget(MakeControl(*item.controls[i], column), row, at, Qt::AlignVCenter);
+  }
+  PutBefore(label, *item.controls[0]);
+}
+
+// A bar row among things that stand side by side.
+QWidget* LayoutBuilder::MakeStandAlone(const LayoutItem& item, QWidget* parent) {
+  auto* holder = new QWidget(parent);
+  auto* layout = WithoutMargins(new QHBoxLayout(holder));
+  QLabel* label = MakeText(item.title, holder);
+  layout->addWidget(label);
+  for (Control* control : item.controls) layout->addWidget(MakeControl(*control, holder));
+  PutBefore(label, *item.controls.at(0));
+  return holder;
+}
+
+QWidget* LayoutBuilder::MakeRow(const LayoutItem& item, QWidget* parent) {
+  auto* row = new QWidget(parent);
+  auto* layout = WithoutMargins(new QHBoxLayout(row));
+  for (const LayoutItem& part : item.items) {
+    QWidget* made =
+        IsUprightBar(part, item) ? MakeControl(*part.controls[0], row, Qt::Vertical) : Make(part, row);
+    layout->addWidget(made, part.stretches ? 1 : 0);
+  }
+  return row;
+}
+
+QWidget* LayoutBuilder::MakeFrame(const LayoutItem& item, QWidget* parent) {
+  if (item.controls.empty()) return MakeColumn(item.items, new QGroupBox(CaptionToShow(item.title), parent));
+  auto* group = new GroupWidget(*item.controls[0], dispatcher_, parent);
+  views_[item.controls[0]] = group;
+  return MakeColumn(item.items, group);
+}
+
+QWidget* LayoutBuilder::MakeFlow(const std::vector<Control*>& controls, QWidget* parent) {
+  auto* holder = new QWidget(parent);
+  auto* layout = new FlowLayout(holder, kComfortableFlow);
+  layout->setSpacing(kGap);
+  for (Control* control : controls) layout->addWidget(MakeControl(*control, holder));
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+  policy.setHeightForWidth(true);
+  holder->setSizePolicy(policy);
+  return holder;
+}
+
+QWidget* LayoutBuilder::MakeControl(Control& control, QWidget* parent, Qt::Orientation orientation) {
+  ControlView* view = MakeView(control, orientation, dispatcher_, parent);
+  if (view == nullptr) return new QWidget(parent);
+  views_[&control] = view;
+  return view->widget();
+}
+
+void LayoutBuilder::PutBefore(QLabel* label, Control& control) {
+  const auto found = views_.find(&control);
+  if (found == views_.end()) return;
+  found->second->before = label;
+  found->second->widget()->setAccessibleName(label->text());
+  found->second->Sync();
+}
+
+}  // namespace pelorium

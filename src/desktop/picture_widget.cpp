@@ -1,0 +1,159 @@
+// A picture on the screen.
+#include "desktop/picture_widget.h"
+
+#include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+
+namespace pelorium {
+
+namespace {
+
+constexpr QSize kLeastFollowingSize(160, 120);
+
+bool IsSameLine(const OverlayLine& a, const OverlayLine& b) {
+  return a.x0 == b.x0 && a.y0 == b.y0 && a.x1 == b.x1 && a.y1 == b.y1 && a.colour == b.colour;
+}
+
+QColor ToQt(Colour colour) { return {Red(colour), Green(colour), Blue(colour)}; }
+
+QPoint PixelOf(const QMouseEvent& event) {
+  return {static_cast<int>(std::floor(event.position().x())),
+          static_cast<int>(std::floor(event.position().y()))};
+}
+
+bool IsTold(const QMouseEvent& event) {
+  return event.button() == Qt::LeftButton || event.button() == Qt::RightButton;
+}
+
+Click ClickOf(const QMouseEvent& event) {
+  const bool right = event.button() == Qt::RightButton ||
+                     (event.buttons().testFlag(Qt::RightButton) &&
+                      !event.buttons().testFlag(Qt::LeftButton) && event.button() == Qt::NoButton);
+  return {right ? MouseButton::Right : MouseButton::Left, KeysHeld(event.modifiers())};
+}
+
+}  // namespace
+
+PictureWidget::PictureWidget(PictureBox& box, Dispatcher& dispatcher, QWidget* parent)
+    : QWidget(parent), box_(box), dispatcher_(dispatcher) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setFocusPolicy(box.onKey ? Qt::StrongFocus : Qt::ClickFocus);
+  setMouseTracking(true);
+  if (box.onMouseDown || box.onClick) setCursor(box.onClick ? Qt::PointingHandCursor : Qt::CrossCursor);
+  if (box.followsWindow) {
+    setMinimumSize(kLeastFollowingSize);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  }
+  Adopt(*this, box, dispatcher);
+  PictureWidget::Sync();
+}
+
+void PictureWidget::Sync() {
+  FitToPicture();
+  SyncCommon(*this, box_);
+  update();
+}
+
+void PictureWidget::FitToPicture() {
+  if (box_.followsWindow) return;
+  const QSize size(box_.picture.PixelWidth(), box_.picture.PixelHeight());
+  if (minimumSize() != size || maximumSize() != size) setFixedSize(size);
+}
+
+void PictureWidget::ShowPresent() {
+  if (!isVisible()) return;
+  const auto& overlay = box_.picture.overlay;
+  const bool isShown =
+      box_.picture.Revision() == shownRevision_ &&
+      std::equal(overlay.begin(), overlay.end(), shownOverlay_.begin(), shownOverlay_.end(), IsSameLine);
+  if (isShown) return;
+  FitToPicture();
+  repaint();
+}
+
+QSize PictureWidget::sizeHint() const { return {box_.picture.PixelWidth(), box_.picture.PixelHeight()}; }
+
+void PictureWidget::paintEvent(QPaintEvent*) {
+  const Picture& picture = box_.picture;
+  const int width = picture.PixelWidth(), height = picture.PixelHeight();
+  const auto* pixels = reinterpret_cast<const uchar*>(picture.Pixels().data());
+  const QImage image(pixels, width, height, width * 4, QImage::Format_RGBX8888);
+  QPainter painter(this);
+  if (size() != image.size()) painter.fillRect(rect(), ToQt(picture.backColour));
+  painter.drawImage(QRect(0, 0, width, height), image);
+  DrawOverlay(painter);
+  shownRevision_ = picture.Revision();
+  shownOverlay_ = picture.overlay;
+}
+
+void PictureWidget::DrawOverlay(QPainter& painter) const {
+  for (const OverlayLine& line : box_.picture.overlay) {
+    const Pixel from = box_.picture.ToPixel(line.x0, line.y0);
+    const Pixel to = box_.picture.ToPixel(line.x1, line.y1);
+    painter.setPen(ToQt(line.colour));
+    painter.drawLine(from.x, from.y, to.x, to.y);
+  }
+}
+
+UserEvent PictureWidget::MouseEventAt(UserAction action, QPoint pixel, const Click& click) const {
+  UserEvent event = EventFor(box_, action);
+  event.x = box_.picture.ToUserX(pixel.x());
+  event.y = box_.picture.ToUserY(pixel.y());
+  event.click = click;
+  return event;
+}
+
+void PictureWidget::mousePressEvent(QMouseEvent* event) {
+  if (!IsTold(*event)) return;
+  place_ = PixelOf(*event);
+  if (box_.onMouseDown) dispatcher_.Deliver(MouseEventAt(UserAction::MouseDown, place_, ClickOf(*event)));
+}
+
+// The second press of a quick pair is a press like any other.
+void PictureWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  mousePressEvent(event);
+  if (event->button() == Qt::LeftButton && box_.onDoubleClick) {
+    dispatcher_.Deliver(EventFor(box_, UserAction::DoubleClick));
+  }
+}
+
+void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint pixel = PixelOf(*event);
+  if (!box_.onMouseMove || pixel == place_) return;
+  place_ = pixel;
+  moveClick_ = ClickOf(*event);
+  dispatcher_.AddPending(pendingMove_);
+  QTimer::singleShot(0, this, [this] { dispatcher_.DeliverPending(pendingMove_); });
+}
+
+UserEvent PictureWidget::TakeMove() { return MouseEventAt(UserAction::MouseMove, place_, moveClick_); }
+
+void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (!IsTold(*event)) return;
+  place_ = PixelOf(*event);
+  if (box_.onMouseUp) dispatcher_.Deliver(MouseEventAt(UserAction::MouseUp, place_, ClickOf(*event)));
+  if (box_.onClick && rect().contains(place_)) dispatcher_.Press(box_, ClickOf(*event));
+}
+
+void PictureWidget::resizeEvent(QResizeEvent*) {
+  if (!box_.followsWindow) return;
+  if (size() == QSize(box_.picture.PixelWidth(), box_.picture.PixelHeight())) {
+    dispatcher_.DropPending(pendingResize_);
+    return;
+  }
+  dispatcher_.AddPending(pendingResize_);
+  QTimer::singleShot(0, this, [this] { dispatcher_.DeliverPending(pendingResize_); });
+}
+
+UserEvent PictureWidget::TakeResize() {
+  UserEvent event = EventFor(box_, UserAction::Resize);
+  event.width = width();
+  event.height = height();
+  return event;
+}
+
+}  // namespace pelorium

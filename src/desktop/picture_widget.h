@@ -1,0 +1,68 @@
+// A picture on the screen, and the mouse over it.
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "controls/picture_box.h"
+#include "desktop/control_view.h"
+#include "desktop/dispatcher.h"
+
+namespace pelorium {
+
+// One picture pixel is one logical pixel of the screen; a screen of twice the density shows it as 2 x 2.
+class PictureWidget : public QWidget, public ControlView {
+ public:
+  PictureWidget(PictureBox& box, Dispatcher& dispatcher, QWidget* parent);
+
+  QWidget* widget() override { return this; }
+  void Sync() override;
+  // Repaints at once if the picture or its overlay is not the one on the screen.
+  void ShowPresent();
+
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  // The newest place of the mouse that was not delivered yet.
+  class PendingMove : public PendingInput {
+   public:
+    explicit PendingMove(PictureWidget& owner) : owner_(owner) {}
+    UserEvent TakeEvent() override { return owner_.TakeMove(); }
+
+   private:
+    PictureWidget& owner_;
+  };
+  class PendingResize : public PendingInput {
+   public:
+    explicit PendingResize(PictureWidget& owner) : owner_(owner) {}
+    UserEvent TakeEvent() override { return owner_.TakeResize(); }
+
+   private:
+    PictureWidget& owner_;
+  };
+
+  UserEvent MouseEventAt(UserAction action, QPoint pixel, const Click& click) const;
+  UserEvent TakeMove();
+  UserEvent TakeResize();
+  void DrawOverlay(QPainter& painter) const;
+  void FitToPicture();
+
+  PictureBox& box_;
+  Dispatcher& dispatcher_;
+  PendingMove pendingMove_{*this};
+  PendingResize pendingResize_{*this};
+  QPoint place_{-1, -1};  // of the mouse, when last told
+  Click moveClick_;
+  std::uint64_t shownRevision_ = 0;
+  std::vector<OverlayLine> shownOverlay_;
+};
+
+}  // namespace pelorium

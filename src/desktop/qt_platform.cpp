@@ -1,0 +1,99 @@
+// The machine as a desktop offers it.
+#include "desktop/qt_platform.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QTextDocument>
+#include <QUrl>
+#include <array>
+#include <chrono>
+
+#include "desktop/file_filters.h"
+#include "desktop/journal.h"
+#include "desktop/qt_text.h"
+
+namespace pelorium {
+
+namespace {
+
+// The nearest folder above that exists: a dialog that starts nowhere shows the toolkit's own guess.
+QString StartFolder(const std::filesystem::path& wanted) {
+  std::error_code error;
+  std::filesystem::path folder = wanted;
+  while (!folder.empty() && folder != folder.root_path() && !std::filesystem::is_directory(folder, error)) {
+    folder = folder.parent_path();
+  }
+  return QFile::decodeName(folder.c_str());
+}
+
+}  // namespace
+
+std::string QtPlatform::AskFileName(const FileDialogRequest& request) {
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(request.title), StartFolder(request.folder));
+  dialog.setNameFilters(NameFilters(request.filter));
+  dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setDefaultSuffix(DefaultSuffix(request.defaultExtension));
+  std::string chosen;
+  runDialog([&] {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+    chosen = QFile::encodeName(dialog.selectedFiles().first()).toStdString();
+  });
+  journal_.NoteAnswer(chosen);
+  return chosen;
+}
+
+void QtPlatform::ShowMessage(const std::string& text) {
+  runDialog([&] {
+    QMessageBox box(QMessageBox::Information, QApplication::applicationDisplayName(), ToQt(text),
+                    QMessageBox::Ok, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+  });
+}
+
+void QtPlatform::RunModal(Window& window) {
+  journal_.BeginModal(window);
+  runModal(window);
+  journal_.EndModal();
+}
+
+void QtPlatform::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }
+
+std::string QtPlatform::ClipboardText() { return FromQt(QApplication::clipboard()->text()); }
+
+void QtPlatform::Print(const std::string& text) {
+  QPrinter printer;
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  bool isWanted = false;
+  runDialog([&] { isWanted = dialog.exec() == QDialog::Accepted; });
+  if (!isWanted) return;
+  QTextDocument document(ToQt(text));
+  document.print(&printer);
+}
+
+void QtPlatform::OpenInBrowser(const std::string& address) {
+  QDesktopServices::openUrl(QUrl(ToQt(address), QUrl::TolerantMode));
+}
+
+bool QtPlatform::StartSystemInformation() {
+  static constexpr std::array kTools = {"hardinfo", "kinfocenter", "gnome-control-center"};
+  for (const char* tool : kTools) {
+    if (QProcess::startDetached(tool, {})) return true;
+  }
+  return false;
+}
+
+double QtPlatform::ClockReading() {
+  return std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
+}
+
+}  // namespace pelorium

@@ -1,0 +1,35 @@
+// The machine as a desktop offers it: dialogs, clipboard, printer, browser.
+#pragma once
+
+#include <functional>
+
+#include "platform/platform.h"
+
+namespace pelorium {
+
+class Journal;
+
+class QtPlatform : public Platform {
+ public:
+  explicit QtPlatform(Journal& journal) : journal_(journal) {}
+
+  // Set by the face. `runDialog` runs a dialog of the toolkit: the screen is brought up to date before it
+  // opens.
+  std::function<void(const std::function<void()>& dialog)> runDialog;
+  std::function<void(Window&)> runModal;
+
+  std::string AskFileName(const FileDialogRequest& request) override;
+  void ShowMessage(const std::string& text) override;
+  void RunModal(Window& window) override;
+  void SetClipboardText(const std::string& text) override;
+  std::string ClipboardText() override;
+  void Print(const std::string& text) override;
+  void OpenInBrowser(const std::string& address) override;
+  bool StartSystemInformation() override;
+  double ClockReading() override;
+
+ private:
+  Journal& journal_;
+};
+
+}  // namespace pelorium

@@ -1,0 +1,30 @@
+// One run of the program with its face: everything from the journal to the frame, built in the right order.
+#pragma once
+
+#include <filesystem>
+
+#include "desktop/dispatcher.h"
+#include "desktop/face.h"
+#include "desktop/journal.h"
+#include "desktop/qt_platform.h"
+#include "windows/app.h"
+
+namespace pelorium {
+
+class Session {
+ public:
+  // `applicationPath` is the program's working folder.
+  Session(Journal journal, const std::filesystem::path& applicationPath);
+
+  App& app() { return app_; }
+  Face& face() { return face_; }
+
+ private:
+  Journal journal_;
+  QtPlatform platform_;
+  App app_;
+  Dispatcher dispatcher_;
+  Face face_;
+};
+
+}  // namespace pelorium

@@ -1,0 +1,59 @@
+// A text box on the screen.
+#include "desktop/text_widget.h"
+
+#include <QSignalBlocker>
+
+#include "desktop/qt_text.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr int kTypingPause = 350;  // milliseconds
+constexpr int kDigitsInSight = 8;
+
+}  // namespace
+
+TextWidget::TextWidget(TextBox& box, Dispatcher& dispatcher, QWidget* parent)
+    : QLineEdit(parent), box_(box), dispatcher_(dispatcher) {
+  pause_.setSingleShot(true);
+  pause_.setInterval(kTypingPause);
+  connect(&pause_, &QTimer::timeout, this, [this] { DeliverTyped(); });
+  connect(this, &QLineEdit::textEdited, this, [this] { OnTyped(); });
+  connect(this, &QLineEdit::editingFinished, this, [this] { DeliverTyped(); });
+  Adopt(*this, box, dispatcher);
+  TextWidget::Sync();
+}
+
+void TextWidget::Sync() {
+  const QString shown = ToQt(box_.text());
+  if (!isPending_ && text() != shown) {
+    const QSignalBlocker quiet(this);
+    const int cursor = cursorPosition();
+    setText(shown);
+    setCursorPosition(hasFocus() ? cursor : 0);
+  }
+  SyncCommon(*this, box_);
+}
+
+QSize TextWidget::sizeHint() const {
+  return {fontMetrics().horizontalAdvance('0') * kDigitsInSight + 14, QLineEdit::sizeHint().height()};
+}
+
+void TextWidget::OnTyped() {
+  isPending_ = true;
+  dispatcher_.AddPending(*this);
+  pause_.start();
+}
+
+void TextWidget::DeliverTyped() { dispatcher_.DeliverPending(*this); }
+
+UserEvent TextWidget::TakeEvent() {
+  isPending_ = false;
+  pause_.stop();
+  UserEvent event = EventFor(box_, UserAction::Type);
+  event.text = FromQt(text());
+  return event;
+}
+
+}  // namespace pelorium

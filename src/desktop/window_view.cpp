@@ -1,0 +1,114 @@
+// Shows one window of the program.
+#include "desktop/window_view.h"
+
+#include <QCloseEvent>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/dispatcher.h"
+#include "desktop/layout_builder.h"
+#include "desktop/qt_text.h"
+
+namespace pelorium {
+
+namespace {
+
+// Closing is the program's to do: it hears of it and hides the window.
+class SubWindow : public QMdiSubWindow {
+ public:
+  SubWindow(WindowView& view, QWidget& parent)
+      : QMdiSubWindow(&parent, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+        view_(view) {
+    setAttribute(Qt::WA_DeleteOnClose, false);
+  }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    view_.TellClosed();
+  }
+
+ private:
+  WindowView& view_;
+};
+
+class ModalDialog : public QDialog {
+ public:
+  ModalDialog(WindowView& view, QWidget* parent) : QDialog(parent), view_(view) {
+    setWindowModality(Qt::ApplicationModal);
+    (new QVBoxLayout(this))->setContentsMargins(0, 0, 0, 0);
+  }
+  void reject() override { view_.TellClosed(); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    view_.TellClosed();
+  }
+
+ private:
+  WindowView& view_;
+};
+
+}  // namespace
+
+WindowView::WindowView(Window& window, LayoutBuilder& builder, Dispatcher& dispatcher)
+    : window_(window), builder_(builder), dispatcher_(dispatcher) {}
+
+QScrollArea& WindowView::Content() {
+  if (content_ == nullptr) {
+    content_ = new QScrollArea;
+    content_->setFrameShape(QFrame::NoFrame);
+    content_->setWidgetResizable(true);
+    content_->setFocusPolicy(Qt::NoFocus);
+    content_->setWidget(builder_.Build(window_, content_));
+  }
+  return *content_;
+}
+
+QMdiSubWindow& WindowView::AsSubWindow(QWidget& parent) {
+  if (subWindow_ == nullptr) {
+    subWindow_ = new SubWindow(*this, parent);
+    subWindow_->setObjectName(ToQt(window_.name()));
+  }
+  if (subWindow_->widget() == nullptr) subWindow_->setWidget(&Content());
+  return *subWindow_;
+}
+
+QDialog& WindowView::AsDialog(QWidget* parent) {
+  if (dialog_ == nullptr) {
+    dialog_ = new ModalDialog(*this, parent);
+    dialog_->setObjectName(ToQt(window_.name()));
+  }
+  if (Content().parent() != dialog_) {
+    if (subWindow_ != nullptr) subWindow_->setWidget(nullptr);
+    dialog_->layout()->addWidget(&Content());
+    Content().show();
+  }
+  return *dialog_;
+}
+
+bool WindowView::TakeShow() { return std::exchange(showsSeen_, window_.shows()) != window_.shows(); }
+
+QSize WindowView::ComfortableSize(QSize room) const {
+  QWidget& widget = *content_->widget();
+  const int width = std::max(widget.sizeHint().width(), widget.minimumSizeHint().width());
+  const int height = widget.hasHeightForWidth()
+                         ? std::max(widget.heightForWidth(width), widget.minimumSizeHint().height())
+                         : widget.sizeHint().height();
+  QSize size(width, height);
+  if (size.height() > room.height()) size.rwidth() += content_->verticalScrollBar()->sizeHint().width();
+  return size.boundedTo(room);
+}
+
+void WindowView::TellClosed() {
+  UserEvent event;
+  event.window = window_.name();
+  event.action = UserAction::CloseWindow;
+  dispatcher_.Deliver(event);
+}
+
+}  // namespace pelorium

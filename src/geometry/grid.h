@@ -1,0 +1,20 @@
+// The faces of generated grids: Revolve, Extrude and the mesh grid share them.
+#pragma once
+
+#include "core/model_store.h"
+
+namespace pelorium {
+
+enum class Seam {
+  Open,    // the quad behind the last column is two empty faces
+  Wrapped  // it leads to the first point one row up, which closes the body
+};
+
+// Faces over points numbered row by row from 1 without a gap: point `row * width + column + 1`. Two faces a
+// quad at neighbouring numbers, rows 0 .. rows - 2; one walk along the whole strip. Sets minfaces to 1 and
+// maxfaces to width * (rows - 1) * 2 - 1, held in 0..7700: the last face of the walk is left out of the
+// count, since with a wrapped seam it would name a point past the grid. Corners past point 23000 become
+// 23000, and no face past number 7699 is written.
+void BuildGridFaces(ModelStore& model, int part, int width, int rows, Seam seam);
+
+}  // namespace pelorium

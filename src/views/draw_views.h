@@ -1,0 +1,14 @@
+// Draws the wire views: grid, profiles, wire frames, dots, axes and the origin cross.
+#pragma once
+
+#include "graphics/picture.h"
+#include "views/view_settings.h"
+
+namespace pelorium {
+
+// Repaints the picture from nothing. Fast enough for each mouse move at full tables: 2 x 7700 faces and 2 x
+// 23000 points. A subscript outside its table (a face's group, a range of points) raises a Fault; what was
+// drawn by then stands.
+void DrawViews(const ModelStore& model, const ViewSettings& settings, Picture& picture);
+
+}  // namespace pelorium

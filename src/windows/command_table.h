@@ -1,0 +1,53 @@
+// The command set: one table for the menu bar and for the row of buttons in the view window that repeats
+// parts of it.
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "controls/buttons.h"
+
+namespace pelorium {
+
+class App;
+
+enum class CommandKind {
+  Head,       // opens a menu or a submenu
+  Show,       // shows the window `target`
+  Edit,       // disarms the mouse modes of the view window, then shows the window
+  EditAndOn,  // as Edit, and switches the option `also` on
+  Press,      // presses the button `target`
+  SwitchOn,   // switches the option `target` on
+  Run,        // runs `run`
+};
+
+struct Command {
+  std::string_view menu;  // the head it stands under; empty for the menu bar itself
+  std::string_view caption;
+  std::string_view name;
+  CommandKind kind = CommandKind::Head;
+  std::string_view target = {};  // "Form31" or "Form31.Command15"
+  void (*run)(App&) = nullptr;
+  std::string_view also = {};
+};
+
+const std::vector<Command>& Commands();
+
+// True when all that the command needs exists: its window, its button (and that is enabled), its routine.
+// Commands whose window is still to come stand in the menu disabled.
+bool IsAvailable(const App& app, const Command& command);
+void RunCommand(App& app, const Command& command);
+
+// A button of the view window that does what a menu item does.
+struct CommandButton {
+  std::string_view name, caption, menuItem;
+};
+
+const std::vector<CommandButton>& CommandButtons();
+
+// The row's buttons as controls of `window`; they do nothing until BindCommandRow.
+std::vector<std::unique_ptr<PushButton>> MakeCommandRow(Window& window);
+void BindCommandRow(App& app, const std::vector<std::unique_ptr<PushButton>>& row);
+
+}  // namespace pelorium

@@ -1,0 +1,25 @@
+// Asking for file names.
+#include "windows/file_names.h"
+
+#include "windows/app.h"
+
+namespace pelorium {
+
+std::filesystem::path AskFileName(App& app, FileDialogRequest request) {
+  request.folder = app.applicationPath / request.folder;
+  std::filesystem::path name = app.platform.AskFileName(request);
+  const std::string& pattern = request.defaultExtension;
+  if (!name.empty() && !name.has_extension() && pattern.starts_with("*.")) name += pattern.substr(1);
+  return name;
+}
+
+void BrowseInto(DirList& folders, FileList& files, TextBox& box) {
+  folders.onDoubleClick = [&folders, &files] {
+    const std::filesystem::path folder = folders.ChosenFolder();
+    folders.SetFolder(folder);
+    files.SetFolder(folder);
+  };
+  files.onClick = [&files, &box](const Click&) { box.SetText(files.ChosenPath().string()); };
+}
+
+}  // namespace pelorium

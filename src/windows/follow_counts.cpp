@@ -1,0 +1,46 @@
+// Making the range controls agree.
+#include "windows/follow_counts.h"
+
+#include <algorithm>
+
+#include "base/numbers.h"
+#include "core/part_operations.h"
+#include "windows/app.h"
+#include "windows/edit_by_face.h"
+#include "windows/form5.h"
+#include "windows/form51.h"
+#include "windows/shared_parameters.h"
+
+namespace pelorium {
+
+namespace {
+
+// A value above the new limit goes to `fallback` in one step, before the limit can pull it.
+void FollowMax(ScrollBar& bar, int max, int fallback) {
+  if (bar.value() > max) bar.SetValue(fallback);
+  bar.SetMax(max);
+}
+
+}  // namespace
+
+void FollowCounts(App& app) {
+  const HoldAutomaticActions hold(app);
+  const PartHeader& part = app.model.Part(CurrentPart(app));
+  const int faces = part.maxfaces, points = part.maxpoints;
+
+  app.form51.HScroll7.SetMax(std::max(1, faces));
+  app.form51.HScroll7.SetValue(1);
+  app.form51.HScroll5.SetMax(faces);
+  app.form51.HScroll5.SetValue(faces);
+  app.editbyface.FollowCounts(points, faces);
+  app.form5.HScroll25.SetMax(points);
+  app.form5.HScroll25.SetValue(points);
+  FollowMax(app.form5.HScroll20, std::max(1, points), 1);
+  app.form51.Label3.SetCaption(CountCaption(app.model, CurrentPart(app)));
+}
+
+void FollowSections(App& app) {
+  app.form5.HScroll5.SetValueWidening(app.model.Part(CurrentPart(app)).Sections + 1);
+}
+
+}  // namespace pelorium

@@ -1,0 +1,16 @@
+// Makes the range controls of all windows agree with a Part's counts.
+#pragma once
+
+namespace pelorium {
+
+class App;
+
+// After a load or a change of Part: the face and point ranges open to the current Part's counts, choices that
+// lie outside go back to the first. Automatic actions are held back meanwhile: they would overwrite what was
+// just read.
+void FollowCounts(App& app);
+
+// "Pts/ layer" follows the Part's Sections + 1.
+void FollowSections(App& app);
+
+}  // namespace pelorium

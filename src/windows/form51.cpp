@@ -1,0 +1,141 @@
+// "View Options".
+#include "windows/form51.h"
+
+#include <string>
+
+#include "base/numbers.h"
+#include "core/part_operations.h"
+#include "windows/app.h"
+#include "windows/follow_counts.h"
+#include "windows/form36.h"
+#include "windows/form5.h"
+#include "windows/formulas.h"
+#include "windows/refresh_views.h"
+#include "windows/revolve_prof.h"
+#include "windows/shared_parameters.h"
+
+namespace pelorium {
+
+namespace {
+
+// a * b / c in general form; a divisor of 0 is a fault, which leaves the label as it is.
+std::string Calculated(const TextBox& a, const TextBox& b, const TextBox& c) {
+  if (c.Number() == 0) throw Fault(FaultKind::DivisionByZero, c.FullName());
+  return GeneralForm(a.Number() * b.Number() / c.Number());
+}
+
+}  // namespace
+
+Form51::Form51(App& app) : Window(app.host, "Form51", "View Options"), app_(app) {
+  Pair(HScroll4, Text3);
+  Pair(HScroll3, Text2);
+  Pair(HScroll8, Text6);
+  HScroll4.onChange = [this] { HScroll4_Change(); };
+  HScroll3.onChange = [this] { HScroll3_Change(); };
+  HScroll6.onChange = [this] { HScroll6_Change(); };
+  HScroll2.onChange = [this] { HScroll2_Change(); };
+  HScroll1.onChange = HScroll13.onChange = [this] { Zoom_Change(); };
+  for (auto [bar, label] : {std::pair{&HScroll7, &Label12}, {&HScroll5, &Label10}}) {
+    bar->onChange = [this, bar, label] {
+      label->SetCaption(std::to_string(bar->value()));
+      RefreshViews(app_);
+    };
+  }
+  Command17.onClick = [this](const Click&) { HScroll6.SetValue(0); };
+  Command26.onClick = [this](const Click& click) { app_.form36.ZoomByButton(click); };
+  Command1.onClick = [this](const Click&) { RefreshViews(app_); };
+  Command5.onClick = [this](const Click&) { Command5_Click(); };
+  Command3.onClick = [this](const Click&) { Command3_Click(); };
+  BindViews();
+  SetLayout(DeclareLayout());
+}
+
+// Everything that only changes what the picture shows.
+void Form51::BindViews() {
+  for (ScrollBar* bar : {&HScroll8, &HScroll9}) bar->onChange = [this] { RefreshViews(app_); };
+  for (Control* control :
+       std::initializer_list<Control*>{&Option1, &Option2, &Option3, &Option4, &Option5, &Option6, &Option16,
+                                       &Check1,  &Check3,  &Check7,  &Check9,  &Check10, &Check12, &Check13,
+                                       &Check14, &Check15, &Check16, &Check17, &Check21, &Check30}) {
+    control->onClick = [this](const Click&) { RefreshViews(app_); };
+  }
+}
+
+LayoutItem Form51::DeclareLayout() {
+  return Column({
+      Frame("Part and profile",
+            {BarRow(HScroll4, {&Text3}), BarRow(HScroll3, {&Text2}), BarRow(HScroll6, {&Label17}),
+             BarRow(HScroll2, {&Text1}), Flow({&Command17})}),
+      Frame("View", {Flow({&Option1, &Option4, &Option2, &Option5, &Option6, &Option16, &Option3})}),
+      Frame("Show", {Flow({&Check1, &Check30, &Check7, &Check10, &Check9, &Check3, &Check14, &Check16,
+                           &Check12, &Check15, &Check17, &Check13, &Check21})}),
+      Frame("Faces",
+            {BarRow(HScroll7, {&Label12}), BarRow(HScroll5, {&Label10}), Single(Label3), Single(Label19)}),
+      Frame("Zoom and grid", {Flow({&Command26, &Command1}), BarRow(HScroll8, {&Text6}), BarRow(HScroll9, {}),
+                              BarRow(HScroll13, {&Label33}), BarRow(HScroll1, {})}),
+      Frame("Mouse", {Flow({&Check8, &Check4, &Check5, &Check2, &Check6})}),
+      Frame("Calc", {Row({Labelled("", Text10), Labelled("*", Text8), Labelled("/", Text9), Single(Command5),
+                          Single(Label24)}),
+                     Row({Labelled("", Text7), Labelled("*", Text5), Labelled("/", Text4), Single(Command3),
+                          Single(Label21)})}),
+  });
+}
+
+void Form51::Load() {
+  for (ScrollBar* selector : {&HScroll3, &HScroll6}) selector->SetMax(kMaxLayer);
+  for (ScrollBar* faces : {&HScroll5, &HScroll7}) faces->SetMax(kMaxFaces);
+  HScroll4.SetMax(kUserParts - 1);
+}
+
+void Form51::ShowProfileCount() {
+  const int count = app_.model.Profile(CurrentProfile(app_)).count;
+  Label17.SetCaption(std::to_string(count));
+  HScroll6.SetValueWidening(count);
+  app_.formulas.ShowPoint(count);
+}
+
+void Form51::ShowProfile() {
+  ShowProfileCount();
+  app_.revolveprof.ShowProfile();
+}
+
+void Form51::HScroll4_Change() {
+  Trapped(app_.faults, "Form51.HScroll4", [this] {
+    const HoldAutomaticActions hold(app_);
+    FollowCounts(app_);
+    app_.form5.HScroll20.SetValue(1);
+    FollowSections(app_);
+    app_.form5.HScroll11.SetValue(HScroll4.value());
+  });
+  RefreshViews(app_);
+}
+
+void Form51::HScroll3_Change() {
+  ShowProfile();
+  RefreshViews(app_);
+}
+
+void Form51::HScroll6_Change() {
+  app_.model.Profile(CurrentProfile(app_)).count = Narrow<std::int16_t>(HScroll6.value());
+  Text1.SetText(std::to_string(HScroll6.value()));
+  Label17.SetCaption(std::to_string(HScroll6.value()));
+  RefreshViews(app_);
+}
+
+void Form51::HScroll2_Change() { Text1.SetText(std::to_string(HScroll2.value())); }
+
+void Form51::Zoom_Change() {
+  constexpr double kZoomUnits = 10000;
+  Label33.SetCaption(GeneralForm(HScroll13.value() / kZoomUnits));
+  RefreshViews(app_);
+}
+
+void Form51::Command5_Click() {
+  Trapped(app_.faults, "Form51.Command5", [this] { Label24.SetCaption(Calculated(Text10, Text8, Text9)); });
+}
+
+void Form51::Command3_Click() {
+  Trapped(app_.faults, "Form51.Command3", [this] { Label21.SetCaption(Calculated(Text7, Text5, Text4)); });
+}
+
+}  // namespace pelorium

@@ -1,0 +1,99 @@
+// The main frame.
+#include "windows/mdi_form1.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "core/part_operations.h"
+#include "windows/app.h"
+#include "windows/command_table.h"
+#include "windows/form14.h"
+#include "windows/form31.h"
+#include "windows/form36.h"
+#include "windows/form5.h"
+#include "windows/form51.h"
+#include "windows/help_me.h"
+#include "windows/refresh_views.h"
+#include "windows/shared_parameters.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr const char* kTitle = "Pelorium v2.14";
+constexpr int kStartMaxPoints = 7700;  // of the point range, before a Part says otherwise
+
+MenuItem* FindItem(const std::vector<std::unique_ptr<MenuItem>>& menu, std::string_view name) {
+  const auto found =
+      std::find_if(menu.begin(), menu.end(), [name](const auto& item) { return item->name() == name; });
+  return found == menu.end() ? nullptr : found->get();
+}
+
+}  // namespace
+
+MDIForm1::MDIForm1(App& app) : Window(app.host, "MDIForm1", kTitle), app_(app) {
+  for (const Command& command : Commands()) {
+    menu_.push_back(std::make_unique<MenuItem>(*this, std::string(command.name), std::string(command.caption),
+                                               FindItem(menu_, command.menu)));
+  }
+}
+
+void MDIForm1::Load() {
+  ResetModel(app_.model, app_.random);
+  Trapped(app_.faults, "helpme.Load", [this] { app_.helpme.LoadHelp(); });
+  SetCaption(kTitle);
+  app_.form5.Load();
+  app_.form14.Load();
+  app_.form31.Load();
+  app_.form36.Load();
+  app_.form51.Load();
+  SetLimits();
+  app_.form51.Label3.SetCaption(CountCaption(app_.model, CurrentPart(app_)));
+  app_.shadedPose = {245, 0, 45, 0, 0, 0};
+  BindCommands();
+  PlaceWindows();
+  Show();
+  RefreshViews(app_);
+  app_.started = true;
+}
+
+void MDIForm1::SetLimits() {
+  for (ScrollBar* range : {&app_.form5.HScroll20, &app_.form5.HScroll25}) range->SetMax(kStartMaxPoints);
+}
+
+void MDIForm1::BindCommands() {
+  for (const Command& command : Commands()) {
+    MenuItem* item = FindItem(menu_, command.name);
+    item->SetEnabled(IsAvailable(app_, command));
+    item->onClick = [this, &command](const Click&) { RunCommand(app_, command); };
+  }
+  BindCommandRow(app_, app_.form36.commandRow);
+}
+
+// In twips. The tool windows start at the left; the view stands beside the View Options.
+void MDIForm1::PlaceWindows() {
+  struct Place {
+    const char* window;
+    double left, top;
+  };
+  for (const Place& place : std::array<Place, 8>{{{"Form31", 10, 0},
+                                                  {"Form14", 10, 0},
+                                                  {"Form5", 10, 0},
+                                                  {"Formulas", 10, 0},
+                                                  {"editbyface", 10, 0},
+                                                  {"Form36", 4300, 0},
+                                                  {"revolveprof", 0, 10},
+                                                  {"Form51", 0, 10}}}) {
+    app_.FindWindow(place.window)->MoveTo(place.left, place.top);
+  }
+  app_.form36.Show();
+  app_.form51.Show();
+}
+
+void MDIForm1::Exit() {
+  for (Window* window : app_.windows()) window->Hide();
+  app_.exitRequested = true;
+}
+
+}  // namespace pelorium

@@ -1,0 +1,243 @@
+// "Revolve Profile".
+#include "windows/revolve_prof.h"
+
+#include <algorithm>
+
+#include "base/numbers.h"
+#include "geometry/grid.h"
+#include "geometry/join_ends.h"
+#include "geometry/sections_to_profiles.h"
+#include "windows/app.h"
+#include "windows/follow_counts.h"
+#include "windows/form5.h"
+#include "windows/form51.h"
+#include "windows/refresh_views.h"
+#include "windows/shared_parameters.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr int kMostSections = 61;
+constexpr int kMostPointsPerLayer = 120;
+constexpr double kHundredths = 100;
+
+int Whole(const TextBox& box) { return ToInteger<int>(box.Number()); }
+
+}  // namespace
+
+RevolveProf::RevolveProf(App& app) : Window(app.host, "revolveprof", "Revolve Profile"), app_(app) {
+  BindParameters();
+  BindGeneralFields();
+  HScroll10.onChange = [this] { HScroll10_Change(); };
+  Command15.onClick = [this](const Click&) { Command15_Click(); };
+  Command18.onClick = [this](const Click&) { Command18_Click(); };
+  // Caps and the weld are pressed in windows that are still to come.
+  for (CheckBox* later : {&Check2, &Check6, &Check7, &Check9, &Check10}) later->SetEnabled(false);
+  SetLayout(DeclareLayout());
+}
+
+// Boxes that are parameters themselves only mirror their bar; typing into the others moves the bar.
+void RevolveProf::BindParameters() {
+  struct Parameter {
+    ScrollBar& bar;
+    TextBox& box;
+    double divisor = 1;
+  };
+  for (const Parameter& p : std::initializer_list<Parameter>{{HScroll9, Text7},
+                                                             {HScroll11, Text6},
+                                                             {HScroll3, Text33},
+                                                             {HScroll6, Text34},
+                                                             {HScroll46, Text43},
+                                                             {HScroll1, Text1},
+                                                             {HScroll5, Text3},
+                                                             {HScroll8, Text5},
+                                                             {HScroll4, Text9, kHundredths},
+                                                             {HScroll2, Text45, kHundredths},
+                                                             {HScroll16, Text12, kHundredths},
+                                                             {HScroll17, Text13, kHundredths}}) {
+    Mirror(p.bar, p.box, p.divisor);
+    p.bar.onChange = [this] { AutoRevolve(); };
+  }
+  for (const Parameter& p : std::initializer_list<Parameter>{{HScroll48, Text40},
+                                                             {HScroll47, Text41},
+                                                             {HScroll49, Text44},
+                                                             {HScroll50, Text47},
+                                                             {HScroll15, Text46},
+                                                             {HScroll13, Text11},
+                                                             {HScroll42, Text39}}) {
+    Pair(p.bar, p.box, p.divisor);
+    p.bar.onChange = [this] { AutoRevolve(); };
+  }
+  Pair(HScroll10, Text8);
+  HScroll22.onChange = [this] { AutoRevolve(); };
+  for (CheckBox* tick : {&Check14, &Check4, &Check1, &Check8, &Check5}) {
+    tick->onClick = [this](const Click&) { AutoRevolve(); };
+  }
+}
+
+void RevolveProf::BindGeneralFields() {
+  using P = ProfileHeader;
+  generalFields_ = {
+      {&HScroll31, &Text21, &P::genMoveX, 1},           {&HScroll32, &Text22, &P::genMoveY, 1},
+      {&HScroll33, &Text23, &P::genMoveZ, 1},           {&HScroll34, &Text24, &P::genRotateX, 1},
+      {&HScroll35, &Text25, &P::genTurnY, 1},           {&HScroll36, &Text26, &P::genSpinZ, 1},
+      {&HScroll37, &Text27, &P::genMultX, kHundredths}, {&HScroll38, &Text28, &P::genMultY, kHundredths},
+      {&HScroll39, &Text29, &P::genMultZ, kHundredths},
+  };
+  for (const GeneralField& f : generalFields_) {
+    Pair(*f.bar, *f.box, f.divisor);
+    f.bar->onChange = [this, f] {
+      app_.model.Profile(CurrentProfile(app_)).*f.field = f.bar->Shown();
+      AutoRevolve();
+    };
+  }
+}
+
+void RevolveProf::ShowProfile() {
+  const ProfileHeader& profile = app_.model.Profile(CurrentProfile(app_));
+  for (const GeneralField& f : generalFields_) f.bar->Show(profile.*f.field);
+  HScroll22.movedByPerson = false;
+}
+
+void RevolveProf::ResetEffects() {
+  const HoldAutomaticActions hold(app_);
+  for (auto [bar, box] : {std::pair{&HScroll8, &Text5}, {&HScroll5, &Text3}, {&HScroll1, &Text1}}) {
+    bar->SetValue(0);
+    box->SetText("0");  // a typed amount may differ from its bar
+  }
+}
+
+void RevolveProf::AutoRevolve() {
+  if (Option2.value() && app_.automaticActionsHeld == 0) Command15.Press();
+}
+
+void RevolveProf::HScroll10_Change() {
+  {
+    const HoldAutomaticActions hold(app_);
+    const auto sections = Narrow<std::int16_t>(HScroll10.value());
+    Text9.SetText(GeneralForm(360.0 / sections));
+    app_.model.Profile(CurrentProfile(app_)).sectionCount = sections;
+    app_.model.Part(CurrentPart(app_)).Sections = sections;
+    HScroll11.SetMax(std::max(HScroll11.max(), kMostSections));
+    HScroll11.SetValue(sections);
+    ScrollBar& pointsPerLayer = app_.form5.HScroll5;
+    pointsPerLayer.SetMax(std::max(pointsPerLayer.max(), kMostPointsPerLayer));
+    FollowSections(app_);
+  }
+  AutoRevolve();
+}
+
+RevolveSettings RevolveProf::ReadSettings() const {
+  RevolveSettings s;
+  s.profile = CurrentProfile(app_);
+  s.part = CurrentPart(app_);
+  s.firstLayer = Whole(Text33);
+  s.lastLayer = Whole(Text34);
+  s.firstSection = Whole(Text7);
+  s.lastSection = Whole(Text6);
+  s.firstPlaced = HScroll48.value();
+  s.lastPlaced = HScroll47.value();
+  s.layersLimit = HScroll22.value();
+  s.degreesPerSection = Text9.Number();
+  s.increment = Text43.Number();
+  s.corkscrew = Text1.Number();
+  s.spiral = Text3.Number();
+  s.petalsX = HScroll15.value();
+  s.petalsY = HScroll13.value();
+  s.petalAmp = Text5.Number();
+  s.multiplyX = Text45.Number();
+  s.multiplyY = Text12.Number();
+  s.regularSpacing = Check14.value();
+  s.spacing = HScroll42.value();
+  s.origin = Origin(app_);
+  return s;
+}
+
+// The limits follow the profile's count, and all its layers are meshed unless a person set a limit for this
+// profile.
+void RevolveProf::PrepareHeaders(int profile, int part) {
+  ProfileHeader& header = app_.model.Profile(profile);
+  const int count = header.count;
+  HScroll22.SetMax(count);
+  if (!HScroll22.movedByPerson) HScroll22.SetValue(count);
+  HScroll27.SetMax(count);
+  HScroll7.SetValueWidening(header.sectionCount);
+  const auto sections = Narrow<std::int16_t>(HScroll10.value());
+  PartHeader& target = app_.model.Part(part);
+  target.Sections = header.sectionCount = sections;
+  target.count = header.count;
+  app_.model.PointMark(part, 0) = 1;
+}
+
+void RevolveProf::Command15_Click() {
+  const HoldAutomaticActions hold(app_);
+  Trapped(app_.faults, "revolveprof.Command15", [this] {
+    PrepareHeaders(CurrentProfile(app_), CurrentPart(app_));
+    const RevolveSettings settings = ReadSettings();
+    LayRevolvedPoints(app_.model, settings);
+    // A range cut by hand makes shorter rings than the sections say.
+    app_.model.Part(settings.part).Sections = Narrow<std::int16_t>(std::max(0, RingWidth(settings) - 1));
+    if (app_.form51.Option1.value()) app_.form51.Option4.SetValue(true);
+    BuildGridFaces(RingWidth(settings), MeshedRows(settings));
+    FinishEnds(settings);
+  });
+  RefreshViews(app_);
+}
+
+void RevolveProf::BuildGridFaces(int width, int rows) {
+  const int part = CurrentPart(app_);
+  pelorium::BuildGridFaces(app_.model, part, width, rows, Check4.value() ? Seam::Wrapped : Seam::Open);
+  FollowCounts(app_);
+  app_.form5.HScroll20.SetValue(1);
+  ScrollBar& pointsPerLayer = app_.form5.HScroll5;
+  pointsPerLayer.SetMax(std::max(pointsPerLayer.max(), kMostPointsPerLayer));
+  FollowSections(app_);
+  SyncFaceCorners(app_);
+  RefreshViews(app_);
+}
+
+void RevolveProf::FinishEnds(const RevolveSettings& settings) {
+  for (const CheckBox* tick : {&Check8, &Check1}) {
+    if (tick->value()) Command18.Press();
+  }
+  if (Check5.value()) {
+    ProfilesFromSections(app_.model, settings.part, RingWidth(settings), MeshedRows(settings),
+                         settings.profile);
+  }
+}
+
+void RevolveProf::Command18_Click() {
+  Trapped(app_.faults, "revolveprof.Command18", [this] {
+    JoinRingEnds(app_.model, CurrentPart(app_), app_.form5.HScroll5.value());
+    SyncFaceCorners(app_);
+  });
+  RefreshViews(app_);
+}
+
+LayoutItem RevolveProf::DeclareLayout() {
+  std::vector<LayoutItem> general;
+  for (const GeneralField& f : generalFields_) general.push_back(BarRow(*f.bar, {f.box}));
+  return Column({
+      Row({Flow({&Command15, &Command18}), Flow({&Option4, &Option2})}),
+      Row({Column(
+               {Frame("Sections and layers",
+                      {BarRow(HScroll10, {&Text8}), BarRow(HScroll4, {&Text9}), BarRow(HScroll9, {&Text7}),
+                       BarRow(HScroll11, {&Text6}), BarRow(HScroll3, {&Text33}), BarRow(HScroll6, {&Text34}),
+                       BarRow(HScroll22, {}), BarRow(HScroll7, {}), BarRow(HScroll27, {})}),
+                Frame("Simple Revolve Settings", {BarRow(HScroll48, {&Text40}), BarRow(HScroll47, {&Text41}),
+                                                  BarRow(HScroll49, {&Text44}), BarRow(HScroll50, {&Text47}),
+                                                  BarRow(HScroll46, {&Text43})})}),
+           Column(
+               {Frame("Petals, spiral, corkscrew",
+                      {BarRow(HScroll15, {&Text46}), BarRow(HScroll13, {&Text11}), BarRow(HScroll8, {&Text5}),
+                       BarRow(HScroll2, {&Text45}), BarRow(HScroll16, {&Text12}),
+                       BarRow(HScroll17, {&Text13}), BarRow(HScroll5, {&Text3}), BarRow(HScroll1, {&Text1}),
+                       Single(Check14), BarRow(HScroll42, {&Text39})}),
+                Frame("General Positioning", std::move(general))})}),
+      Frame("Ends",
+            {Flow({&Check4, &Check2, &Check1, &Check8, &Check6, &Check7, &Check9, &Check10, &Check5})}),
+  });
+}
+
+}  // namespace pelorium

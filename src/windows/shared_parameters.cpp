@@ -1,0 +1,21 @@
+// Where the shared parameters are kept.
+#include "windows/shared_parameters.h"
+
+#include "windows/app.h"
+#include "windows/form5.h"
+#include "windows/form51.h"
+
+namespace pelorium {
+
+int CurrentPart(const App& app) { return app.form51.HScroll4.value(); }
+int CurrentProfile(const App& app) { return app.form51.HScroll3.value(); }
+int PointRangeStart(const App& app) { return app.form5.HScroll20.value(); }
+int PointRangeEnd(const App& app) { return app.form5.HScroll25.value(); }
+int FaceRangeStart(const App& app) { return app.form51.HScroll7.value(); }
+int FaceRangeEnd(const App& app) { return app.form51.HScroll5.value(); }
+
+Vec3 Origin(const App& app) {
+  return {app.form5.Text5.Number(), app.form5.Text9.Number(), app.form5.Text3.Number()};
+}
+
+}  // namespace pelorium

@@ -1,0 +1,50 @@
+// The sources keep to their floors.
+#include <gtest/gtest.h>
+
+#include "architecture/include_scan.h"
+
+namespace pelorium {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+const Sources& OwnSources() {
+  static const Sources sources = ReadSources(std::filesystem::path(PELORIUM_TESTS_DIR) / ".." / "src");
+  return sources;
+}
+
+TEST(Floors, ScanFindsABadArrow) {
+  const Sources madeUp = {
+      {"base/low.h", "#pragma once\n#include \"core/high.h\"\n"},
+      {"core/high.h", "#pragma once\n#include \"base/low.h\"\n#include <vector>\n"},
+      {"views/wire.cpp", "#include \"views/wire.h\"\n#include \"geometry/revolve.h\"\n"},
+      {"platform/files.cpp",
+       "  #  include \"controls/window.h\"\n#include <QImage>\n#include \"core/high.h\""},
+      {"desktop/main.cpp",
+       "#include <QApplication>\n#include \"windows/app.h\"\n// #include \"script/player.h\"\n"},
+      {"stray/new.cpp", "#include \"base/low.h\"\n"},
+  };
+  EXPECT_EQ(ClimbingIncludes(madeUp),
+            (Lines{"base/low.h includes core/high.h", "platform/files.cpp includes QImage",
+                   "platform/files.cpp includes core/high.h", "stray/new.cpp includes base/low.h",
+                   "views/wire.cpp includes geometry/revolve.h"}));
+}
+
+TEST(Floors, ScanFindsAnUmbrella) {
+  Sources madeUp;
+  std::string nine;
+  for (char name = 'a'; name <= 'i'; ++name) nine += std::string("#include \"windows/") + name + ".h\"\n";
+  madeUp["windows/all.h"] = nine;
+  madeUp["windows/app.cpp"] = nine;
+  madeUp["windows/through.h"] = "#include \"windows/all.h\"\n";
+  madeUp["script/player.cpp"] = "#include \"windows/all.h\"\n";
+  EXPECT_EQ(UmbrellaIncludes(madeUp),
+            (Lines{"windows/all.h pulls in 9 windows", "windows/through.h pulls in 10 windows"}));
+}
+
+TEST(Floors, SourcesAreFound) { EXPECT_EQ(OwnSources().count("base/numbers.cpp"), 1U); }
+TEST(Floors, NoIncludeClimbs) { EXPECT_EQ(ClimbingIncludes(OwnSources()), Lines{}); }
+TEST(Floors, NoFilePullsInAllWindows) { EXPECT_EQ(UmbrellaIncludes(OwnSources()), Lines{}); }
+
+}  // namespace
+}  // namespace pelorium

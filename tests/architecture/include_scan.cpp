@@ -1,0 +1,135 @@
+// Scan of the sources' include lines.
+#include "architecture/include_scan.h"
+
+#include <algorithm>
+#include <set>
+#include <sstream>
+
+#include "support/harness.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr std::size_t kWindowsOneTalksTo = 8;
+
+// What each folder may include besides itself.
+const std::map<std::string, std::set<std::string>> kFloors = [] {
+  const std::set<std::string> logic = {"base", "graphics", "core"};
+  std::set<std::string> windows = {"base",        "graphics",  "core",    "views",    "profiles", "geometry",
+                                   "interchange", "facetools", "imaging", "controls", "platform"};
+  std::set<std::string> faces = windows;
+  faces.insert("windows");
+  return std::map<std::string, std::set<std::string>>{
+      {"base", {}},
+      {"graphics", {"base"}},
+      {"core", {"base", "graphics"}},
+      {"views", logic},
+      {"profiles", logic},
+      {"geometry", logic},
+      {"interchange", logic},
+      {"facetools", logic},
+      {"imaging", logic},
+      {"controls", {"base", "graphics"}},
+      {"platform", {"base", "graphics", "controls"}},
+      {"windows", windows},
+      {"script", faces},
+      {"desktop", faces},
+  };
+}();
+
+struct Include {
+  bool quoted;
+  std::string path;
+};
+
+void SkipBlanks(std::string_view& text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+}
+
+// Takes `word` and the blanks before it off the start of `text`.
+bool Takes(std::string_view& text, std::string_view word) {
+  SkipBlanks(text);
+  if (!text.starts_with(word)) return false;
+  text.remove_prefix(word.size());
+  return true;
+}
+
+std::vector<Include> IncludesOf(const std::string& text) {
+  std::vector<Include> includes;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    std::string_view rest = line;
+    if (!Takes(rest, "#") || !Takes(rest, "include")) continue;
+    const bool quoted = Takes(rest, "\"");
+    if (!quoted && !Takes(rest, "<")) continue;
+    includes.push_back({quoted, std::string(rest.substr(0, rest.find_first_of("\">")))});
+  }
+  return includes;
+}
+
+std::string FolderOf(const std::string& path) { return path.substr(0, path.find('/')); }
+
+bool IsToolkit(const std::string& header) { return header.starts_with("Q") || header.starts_with("qt"); }
+
+bool IsAllowed(const std::string& from, const Include& include) {
+  if (!include.quoted || include.path.find('/') == std::string::npos) {
+    return from == "desktop" || !IsToolkit(include.path);
+  }
+  const std::string to = FolderOf(include.path);
+  const auto floor = kFloors.find(from);
+  return to == from || (floor != kFloors.end() && floor->second.count(to) != 0);
+}
+
+bool IsWindowHeader(const std::string& path) {
+  return FolderOf(path) == "windows" && path != "windows/app.h";
+}
+
+void CollectWindows(const Sources& sources, const std::string& path, bool throughOthers,
+                    std::set<std::string>& windows) {
+  const auto source = sources.find(path);
+  if (source == sources.end()) return;
+  for (const Include& include : IncludesOf(source->second)) {
+    if (IsWindowHeader(include.path) && windows.insert(include.path).second && throughOthers) {
+      CollectWindows(sources, include.path, true, windows);
+    }
+  }
+}
+
+}  // namespace
+
+Sources ReadSources(const std::filesystem::path& src) {
+  Sources sources;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(src)) {
+    const std::string extension = entry.path().extension().string();
+    if (extension != ".h" && extension != ".cpp") continue;
+    sources[entry.path().lexically_relative(src).generic_string()] = BytesOf(entry.path());
+  }
+  return sources;
+}
+
+std::vector<std::string> ClimbingIncludes(const Sources& sources) {
+  std::vector<std::string> climbing;
+  for (const auto& [path, text] : sources) {
+    for (const Include& include : IncludesOf(text)) {
+      if (!IsAllowed(FolderOf(path), include)) climbing.push_back(path + " includes " + include.path);
+    }
+  }
+  return climbing;
+}
+
+std::vector<std::string> UmbrellaIncludes(const Sources& sources) {
+  std::vector<std::string> umbrellas;
+  for (const auto& [path, text] : sources) {
+    if (path == "windows/app.cpp") continue;
+    std::set<std::string> windows;
+    CollectWindows(sources, path, path.ends_with(".h"), windows);
+    windows.erase(path.substr(0, path.rfind('.')) + ".h");
+    if (windows.size() > kWindowsOneTalksTo) {
+      umbrellas.push_back(path + " pulls in " + std::to_string(windows.size()) + " windows");
+    }
+  }
+  return umbrellas;
+}
+
+}  // namespace pelorium

@@ -1,0 +1,323 @@
+// What setting, pressing and typing does to each kind of control.
+#include <limits>
+
+#include "controls/buttons.h"
+#include "controls/lists.h"
+#include "controls/picture_box.h"
+#include "controls/properties.h"
+#include "controls/scroll_bar.h"
+#include "controls/text_box.h"
+#include "controls/window.h"
+#include "support/harness.h"
+
+namespace pelorium {
+namespace {
+
+// A window whose controls count what they fire.
+class Bench : public FolderTest {
+ protected:
+  Bench() {
+    bar.onChange = [this] {
+      ++changes;
+      shownAtChange = box.text();
+    };
+  }
+
+  ControlHost host;
+  Window window{host, "Form1", "Bench"};
+  ScrollBar bar{window, "HScroll1", {.min = -100, .max = 400, .value = 5}, "Size"};
+  TextBox box{window, "Text1", "0.05"};
+  int changes = 0;
+  std::string shownAtChange;
+};
+
+TEST_F(Bench, ABarFiresOnceForADifferentValueAndNeverForAnEqualOne) {
+  Mirror(bar, box, 100);
+  bar.SetValue(5);
+  EXPECT_EQ(changes, 0);
+  EXPECT_EQ(box.text(), "0.05");
+  bar.SetValue(-50);
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(shownAtChange, "-0.5");
+  EXPECT_EQ(bar.Shown(), -0.5);
+}
+
+TEST_F(Bench, ABarRefusesValuesOutsideItsLimits) {
+  bar.SetValue(-100);
+  bar.SetValue(400);
+  EXPECT_EQ(changes, 2);
+  for (const int value : {-101, 401}) {
+    EXPECT_TRUE(Raises(FaultKind::InvalidValue, [&] { bar.SetValue(value); }));
+    EXPECT_EQ(bar.value(), 400);
+  }
+  bar.Drag(1e300);
+  EXPECT_EQ(changes, 2);
+  bar.Drag(-401);
+  EXPECT_EQ(bar.value(), -100);
+  bar.Drag(2.5);
+  EXPECT_EQ(bar.value(), 2);
+  bar.Drag(std::numeric_limits<double>::quiet_NaN());
+  EXPECT_EQ(bar.value(), -100);
+}
+
+TEST_F(Bench, LimitsPullTheValue) {
+  bar.SetMax(500);
+  EXPECT_EQ(changes, 0);
+  bar.SetMax(3);
+  EXPECT_EQ(bar.value(), 3);
+  EXPECT_EQ(changes, 1);
+  bar.SetMin(3);
+  EXPECT_EQ(changes, 1);
+  bar.SetMax(10);
+  bar.SetMin(7);
+  EXPECT_EQ(bar.value(), 7);
+  EXPECT_EQ(changes, 2);
+  bar.SetValueWidening(23000);
+  EXPECT_EQ(bar.max(), 23000);
+  EXPECT_EQ(bar.value(), 23000);
+  bar.SetValueWidening(-2);
+  EXPECT_EQ(bar.min(), -2);
+  EXPECT_EQ(changes, 4);
+}
+
+TEST_F(Bench, LimitsMayStandTheOtherWayRound) {
+  ScrollBar swapped(window, "VScroll1", {.min = 200, .max = -200, .value = 0});
+  swapped.SetValue(200);
+  swapped.SetValue(-200);
+  EXPECT_TRUE(Raises(FaultKind::InvalidValue, [&] { swapped.SetValue(201); }));
+  EXPECT_EQ(swapped.Clamped(999), 200);
+  EXPECT_EQ(swapped.Clamped(-999), -200);
+}
+
+TEST_F(Bench, AHandlerMaySetItsOwnBar) {
+  bar.onChange = [this] {
+    ++changes;
+    if (bar.value() > 10) bar.SetValue(10);
+  };
+  bar.SetValue(50);
+  EXPECT_EQ(bar.value(), 10);
+  EXPECT_EQ(changes, 2);
+}
+
+TEST_F(Bench, TypingIntoAPairMovesTheBarWithinItsLimits) {
+  Pair(bar, box, 100);
+  box.Type("1.25mm");
+  EXPECT_EQ(bar.value(), 125);
+  EXPECT_EQ(box.text(), "1.25");
+  box.Type("9");
+  EXPECT_EQ(bar.value(), 400);
+  EXPECT_EQ(box.text(), "4");
+  box.Type("none");
+  EXPECT_EQ(bar.value(), 0);
+  EXPECT_EQ(box.text(), "0");
+  EXPECT_EQ(changes, 3);
+  box.SetText("2");  // as the program sets it: the bar stays
+  EXPECT_EQ(bar.value(), 0);
+}
+
+TEST_F(Bench, TextsFireOnADifferenceAndKeyUpInAnyCase) {
+  int texts = 0, keys = 0;
+  box.onChange = [&] { ++texts; };
+  box.onKeyUp = [&] { ++keys; };
+  box.SetText("0.05");
+  box.SetText("7 mm");
+  EXPECT_EQ(box.Number(), 7);
+  box.Type("7 mm");
+  box.Type("8");
+  EXPECT_EQ(texts, 2);
+  EXPECT_EQ(keys, 2);
+}
+
+TEST_F(Bench, Buttons) {
+  PushButton button(window, "Command1", "Do");
+  button.Press();  // nobody listens
+  std::string seen;
+  button.onClick = [&](const Click& click) { seen += click.IsRight() ? 'R' : 'L'; };
+  button.Press();
+  button.Press(MouseButton::Right);
+  EXPECT_EQ(seen, "LR");
+
+  CheckBox check(window, "Check1", "On", true);
+  int clicks = 0;
+  check.onClick = [&](const Click&) { ++clicks; };
+  check.SetValue(true);
+  check.Press({});
+  EXPECT_FALSE(check.value());
+  check.SetValue(true);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(Bench, OptionsOfAGroupExcludeEachOther) {
+  OptionButton one(window, "Option1", "One", "view", true), two(window, "Option2", "Two", "view");
+  OptionButton other(window, "Option3", "Other", "axis", true);
+  std::string seen;
+  one.onClick = [&](const Click&) { seen += "1"; };
+  two.onClick = [&](const Click&) { seen += one.value() ? "both" : "2"; };
+  two.SetValue(true);
+  EXPECT_TRUE(two.value() && !one.value() && other.value());
+  two.Press({});
+  EXPECT_TRUE(two.value());
+  two.SetValue(false);
+  EXPECT_EQ(seen, "2");
+  one.Press({});
+  EXPECT_EQ(seen, "21");
+}
+
+TEST_F(Bench, AnArmedOptionMayBeDisarmedByAClick) {
+  OptionButton one(window, "Option1", "One", "tool", true, "", OptionButton::WhenArmed::IsDisarmed);
+  OptionButton two(window, "Option2", "Two", "tool", false, "", OptionButton::WhenArmed::IsDisarmed);
+  int clicks = 0;
+  one.onClick = two.onClick = [&](const Click&) { ++clicks; };
+  one.Press({});
+  EXPECT_FALSE(one.value());
+  EXPECT_EQ(clicks, 0);
+  two.Press({});
+  one.Press({});
+  EXPECT_TRUE(one.value() && !two.value());
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(Bench, Lists) {
+  ListBox list(window, "List1");
+  int clicks = 0;
+  list.onClick = [&](const Click&) { ++clicks; };
+  EXPECT_EQ(list.chosen(), "");
+  list.SetItems({"a", "b"});
+  list.SetIndex(1);
+  list.SetIndex(1);
+  EXPECT_EQ(clicks, 1);
+  list.Pick(1);
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(list.chosen(), "b");
+  for (const int index : {-2, 2}) {
+    EXPECT_TRUE(Raises(FaultKind::InvalidValue, [&] { list.SetIndex(index); }));
+  }
+  list.SetItems({});
+  EXPECT_EQ(list.index(), -1);
+}
+
+TEST_F(Bench, FolderLists) {
+  for (const char* name : {"b.OBJ", "a.obj", "c.txt"}) WriteBytes(folder() / name, "");
+  std::filesystem::create_directory(folder() / "d.obj");
+  FileList files(window, "File1", "*.obj");
+  files.SetFolder(folder());
+  EXPECT_EQ(files.items(), (std::vector<std::string>{"a.obj", "b.OBJ"}));
+  EXPECT_EQ(files.ChosenPath(), "");
+  files.SetIndex(1);
+  EXPECT_EQ(files.ChosenPath(), folder() / "b.OBJ");
+  files.SetFolder(folder() / "missing");
+  EXPECT_TRUE(files.items().empty());
+
+  DirList folders(window, "Dir1");
+  folders.SetFolder(folder());
+  EXPECT_EQ(folders.items(), (std::vector<std::string>{"..", "d.obj"}));
+  EXPECT_EQ(folders.ChosenFolder(), folder());
+  folders.SetIndex(1);
+  EXPECT_EQ(folders.ChosenFolder(), folder() / "d.obj");
+  folders.SetIndex(0);
+  EXPECT_EQ(folders.ChosenFolder(), folder().parent_path());
+}
+
+TEST(Patterns, Match) {
+  struct Row {
+    const char *name, *patterns;
+    bool matches;
+  };
+  const Row table[] = {
+      {"a.prj", "*.prj", true},
+      {"A.PRJ", "*.prj", true},
+      {"a.prj2", "*.prj", false},
+      {"a.prj2", "*.prj*", true},
+      {".prj", "*.prj", true},
+      {"prj", "*.prj", false},
+      {"a.txt", "*.prj;*.txt", true},
+      {"a.rtf", "*.txt*;*rtf", true},
+      {"x", "", false},
+      {"", "*", true},
+      {"aXbXc", "a*b*c", true},
+      {"aXbX", "a*b*c", false},
+      {"aab", "*ab", true},
+      {"abab.ab", "*ab", true},
+      {"exact", "exact", true},
+  };
+  for (const Row& row : table)
+    EXPECT_EQ(MatchesPattern(row.name, row.patterns), row.matches) << row.name << " " << row.patterns;
+}
+
+TEST_F(Bench, PropertiesByName) {
+  EXPECT_EQ(GetProperty(bar, "value"), PropertyValue(5.0));
+  EXPECT_EQ(GetProperty(bar, "caption"), PropertyValue("Size"));
+  EXPECT_TRUE(SetProperty(bar, "max", "3 units"));
+  EXPECT_EQ(bar.value(), 3);
+  EXPECT_EQ(changes, 1);
+  EXPECT_TRUE(SetProperty(bar, "largechange", 25.0));
+  EXPECT_EQ(bar.largeChange, 25);
+  EXPECT_TRUE(SetProperty(bar, "value", -7.0));
+  EXPECT_EQ(changes, 2);
+  EXPECT_TRUE(Raises(FaultKind::InvalidValue, [&] { SetProperty(bar, "value", 4.0); }));
+  EXPECT_TRUE(Raises(FaultKind::Overflow, [&] { SetProperty(bar, "value", 1e10); }));
+
+  EXPECT_TRUE(SetProperty(box, "text", 0.5));
+  EXPECT_EQ(GetProperty(box, "value"), PropertyValue("0.5"));
+  EXPECT_TRUE(SetProperty(box, "enabled", 0.0));
+  EXPECT_FALSE(box.enabled());
+  EXPECT_TRUE(SetProperty(box, "left", 12.5));
+  EXPECT_EQ(box.left, 12.5);
+  EXPECT_EQ(GetProperty(box, "max"), std::nullopt);
+  EXPECT_FALSE(SetProperty(box, "max", 1.0));
+  EXPECT_FALSE(SetProperty(box, "nonsense", 1.0));
+}
+
+TEST_F(Bench, PropertiesOfOtherKinds) {
+  ProgressBar progress(window, "ProgressBar1", 10);
+  EXPECT_TRUE(SetProperty(progress, "value", 12.0));
+  EXPECT_EQ(progress.value(), 10);
+  EXPECT_TRUE(SetProperty(progress, "max", 4.0));
+  EXPECT_EQ(GetProperty(progress, "value"), PropertyValue(4.0));
+  EXPECT_FALSE(SetProperty(progress, "min", 1.0));
+
+  PictureBox picture(window, "Picture1", 20, 10);
+  EXPECT_EQ(GetProperty(picture, "pixelwidth"), PropertyValue(20.0));
+  EXPECT_FALSE(SetProperty(picture, "pixelwidth", 5.0));
+  EXPECT_TRUE(SetProperty(picture, "scaleheight", -15.0));
+  EXPECT_EQ(picture.picture.ScaleHeight(), -15);
+  EXPECT_EQ(picture.picture.ScaleWidth(), 20);
+  EXPECT_TRUE(SetProperty(picture, "forecolor", 255.0));
+  EXPECT_EQ(picture.picture.foreColour, 255U);
+  EXPECT_TRUE(Raises(FaultKind::DivisionByZero, [&] { SetProperty(picture, "scalewidth", 0.0); }));
+  int resized = 0;
+  picture.onResize = [&](int width, int) { resized = width; };
+  picture.Resize(0, 5);
+  EXPECT_EQ(resized, 0);
+  picture.Resize(7, 5);
+  EXPECT_EQ(resized, 7);
+
+  EXPECT_TRUE(SetProperty(window, "visible", 1.0));
+  EXPECT_TRUE(window.visible());
+  EXPECT_TRUE(SetProperty(window, "top", 150.0));
+  EXPECT_EQ(GetProperty(window, "top"), PropertyValue(150.0));
+  EXPECT_FALSE(SetProperty(window, "value", 1.0));
+  EXPECT_EQ(GetProperty(window, "value"), std::nullopt);
+}
+
+// A face sees every change, and the new state with it.
+TEST_F(Bench, TheListenerHearsOfChanges) {
+  struct Listener : ControlListener {
+    void ControlChanged(Control& control) override {
+      heard += control.FullName() + "=" + AsText(control.Value()) + " ";
+    }
+    void WindowChanged(Window& window) override { heard += window.name() + " "; }
+    std::string heard;
+  } listener;
+  host.listener = &listener;
+  Mirror(bar, box);
+  bar.SetValue(8);
+  bar.SetValue(8);
+  window.Show();
+  EXPECT_EQ(listener.heard, "Form1.HScroll1=8 Form1.Text1=8 Form1 ");
+  EXPECT_EQ(window.Find("HScroll1"), &bar);
+  EXPECT_EQ(window.Find("hscroll1"), nullptr);
+}
+
+}  // namespace
+}  // namespace pelorium

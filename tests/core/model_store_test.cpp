@@ -1,0 +1,184 @@
+// The tables' bounds, their defaults, and the corner copies.
+#include "core/model_store.h"
+
+#include <type_traits>
+
+#include "base/random_series.h"
+#include "core/part_operations.h"
+#include "support/harness.h"
+
+namespace pelorium {
+namespace {
+
+class Model : public ::testing::Test {
+ protected:
+  Model() { ResetModel(model, random); }
+
+  // Face `face` of Part 0 with the corners at points whose X, Y, Z are 10 n, 10 n + 1, 10 n + 2.
+  void AddFace(int face, int a, int b, int c) {
+    FaceRec& record = model.Faces(0, face);
+    record.corner1pt = a, record.corner2pt = b, record.corner3pt = c;
+    for (const int n : {a, b, c}) {
+      if (n < 0 || n > kMaxPoints) continue;
+      PointRec& point = model.Points(0, n);
+      point.X = 10.0 * n, point.Y = 10.0 * n + 1, point.Z = 10.0 * n + 2;
+    }
+    model.Part(0).maxfaces = static_cast<std::int16_t>(face);
+  }
+
+  RandomSeries random;
+  ModelStore model;
+};
+
+TEST_F(Model, SubscriptsOnBothSidesOfEachLimit) {
+  model.Points(3, 23000).X = 1;
+  model.PointMark(3, 0) = 1;
+  model.Faces(3, 7700).onoff = 1;
+  model.FaceMark(0, 7700) = 1;
+  model.ProfilePts(36, 36).X = 1;
+  model.MaterialGroups(41).d = 1;
+  const std::function<void()> outside[] = {
+      [&] { model.Points(0, 23001); },
+      [&] { model.Points(0, -1); },
+      [&] { model.Points(4, 1); },
+      [&] { model.Points(-1, 1); },
+      [&] { model.PointMark(0, 23001); },
+      [&] { model.Faces(0, 7701); },
+      [&] { model.FaceMark(0, -1); },
+      [&] { model.ProfilePts(37, 0); },
+      [&] { model.ProfilePts(0, 37); },
+      [&] { model.MaterialGroups(42); },
+      [&] { model.Part(4); },
+      [&] { model.Profile(-1); },
+      [&] { FaceRange(model, 0, 1, 7701); },
+      [&] { PointRange(model, 0, -1, 5); },
+  };
+  for (const auto& access : outside) EXPECT_TRUE(Raises(FaultKind::Subscript, access));
+}
+
+TEST_F(Model, Ranges) {
+  const auto faces = FaceRange(model, 1, 3, 5);
+  EXPECT_EQ(faces.end() - faces.begin(), 3);
+  EXPECT_EQ(faces.begin(), &model.Faces(1, 3));
+  EXPECT_EQ(FaceRange(model, 0, 1, 0).begin(), FaceRange(model, 0, 1, 0).end());
+  const ModelStore& read = model;
+  EXPECT_EQ(PointRange(read, 0, 0, kMaxPoints).end() - &read.Points(0, 0), 23001);
+  model.Part(0).minfaces = 0;
+  EXPECT_EQ(FirstFace(model, 0), 1);
+  model.Part(0).minfaces = 7;
+  EXPECT_EQ(FirstFace(model, 0), 7);
+}
+
+TEST_F(Model, DefaultsOfPartsAndProfiles) {
+  for (const int part : {0, 3}) {
+    EXPECT_EQ(model.Part(part).PartName, "part_" + std::to_string(part));
+    EXPECT_EQ(model.Part(part).maxpoints, 0);
+    EXPECT_EQ(model.Part(part).minpoints, 1);
+    EXPECT_EQ(model.Part(part).Sections, 31);
+    const PointRec& point = model.Points(part, 23000);
+    EXPECT_EQ(point.X + point.Y + point.Z + point.u + point.v, 5);
+    EXPECT_EQ(point.onoff, 1);
+    EXPECT_EQ(model.PointMark(part, 1), 1);
+    const FaceRec& face = model.Faces(part, 7700);
+    EXPECT_EQ(face.corner1pt * face.corner2pt * face.corner3pt, 1);
+    EXPECT_EQ(face.group, part);
+    EXPECT_EQ(face.onoff, 1);
+    EXPECT_EQ(face.vt1, 0);
+  }
+  EXPECT_EQ(model.Profile(36).layerCount, 12);
+  EXPECT_EQ(model.Profile(0).layerSpacing, 10);
+  EXPECT_EQ(model.Profile(0).pathProfileX, 30);
+  EXPECT_EQ(model.ProfilePts(36, 36).multX, 1);
+  EXPECT_EQ(model.ProfilePts(0, 0).X, 0);
+}
+
+TEST_F(Model, GroupsGetTheSeriesInOrder) {
+  RandomSeries again;
+  for (const int group : {0, 1}) {
+    const MaterialRec& m = model.MaterialGroups(group);
+    for (const double channel : {m.KaR, m.KaG, m.KaB, m.KsR, m.KsG, m.KsB, m.KdR, m.KdG, m.KdB}) {
+      EXPECT_EQ(channel * 256, static_cast<int>(again.Next() * 255));
+    }
+    EXPECT_EQ(m.illum, 2);
+    EXPECT_EQ(m.Ns, 0.25);
+  }
+  EXPECT_EQ(model.MaterialGroups(41).GroupName, "bone_41");
+}
+
+TEST_F(Model, AResetForgetsEverything) {
+  AddFace(1, 2, 3, 4);
+  model.Part(0).PartName = "vase";
+  model.Profile(5).count = 9;
+  model.ProfilePts(3, 5).Y = 4;
+  model.MaterialGroups(2).d = 0.5;
+  ResetModel(model, random);
+  EXPECT_EQ(model.Part(0).maxfaces, 0);
+  EXPECT_EQ(model.Part(0).PartName, "part_0");
+  EXPECT_EQ(model.Faces(0, 1).corner1pt, 1);
+  EXPECT_EQ(model.Points(0, 2).X, 1);
+  EXPECT_EQ(model.Profile(5).count, 0);
+  EXPECT_EQ(model.ProfilePts(3, 5).Y, 0);
+  EXPECT_EQ(model.MaterialGroups(2).d, 1);
+}
+
+TEST_F(Model, HeadersSurviveTheFirstFaceAndPoint) {
+  AddFace(1, 2, 3, 4);
+  model.Part(0).PartName = "vase";
+  model.Profile(0).count = 9;
+  model.Faces(0, 1) = FaceRec{};
+  model.Points(0, 1) = PointRec{};
+  model.ProfilePts(1, 0) = ProfilePointRec{};
+  EXPECT_EQ(model.Part(0).PartName, "vase");
+  EXPECT_EQ(model.Part(0).maxfaces, 1);
+  EXPECT_EQ(model.Profile(0).count, 9);
+}
+
+TEST(ModelFields, NarrowOnesAreNarrow) {
+  static_assert(std::is_same_v<decltype(PointRec::onoff), std::int16_t>);
+  static_assert(std::is_same_v<decltype(FaceRec::group), std::int16_t>);
+  static_assert(std::is_same_v<decltype(FaceRec::vt1), std::int16_t>);
+  static_assert(std::is_same_v<decltype(FaceRec::corner1pt), std::int32_t>);
+  static_assert(std::is_same_v<decltype(PartHeader::maxpoints), std::int16_t>);
+  EXPECT_LE(sizeof(PointRec), 48U);  // what the views walk at each mouse move
+}
+
+TEST_F(Model, SyncCopiesTheCornersOfTheFacesInUse) {
+  AddFace(1, 5, 0, 23000);
+  AddFace(2, 2, 3, 4);
+  AddFace(3, 7, 8, 9);
+  model.Part(0).minfaces = 2, model.Part(0).maxfaces = 2;
+  SyncFaceCorners(model, 0);
+  EXPECT_EQ(model.Faces(0, 1).c1X, 0);
+  EXPECT_EQ(model.Faces(0, 2).c1X, 20);
+  EXPECT_EQ(model.Faces(0, 2).c2Y, 31);
+  EXPECT_EQ(model.Faces(0, 2).c3Z, 42);
+  EXPECT_EQ(model.Faces(0, 3).c1X, 0);
+  model.Part(0).minfaces = 0, model.Part(0).maxfaces = 1;
+  SyncFaceCorners(model, 0);
+  EXPECT_EQ(model.Faces(0, 1).c1X, 50);
+  EXPECT_EQ(model.Faces(0, 1).c2Z, 2);
+  EXPECT_EQ(model.Faces(0, 1).c3Y, 230001);
+  EXPECT_EQ(CountCaption(model, 0), "1faces  points 0");
+}
+
+TEST_F(Model, SyncAtTheLimitsOfCorners) {
+  AddFace(1, 4, -1, 6);
+  AddFace(2, 4, -1, 23001);
+  AddFace(3, 4, 5, 6);
+  SyncFaceCorners(model, 0);
+  EXPECT_EQ(model.Faces(0, 1).c1X, 0);
+  EXPECT_EQ(model.Faces(0, 2).c1X, 0);
+  EXPECT_EQ(model.Faces(0, 3).c3Z, 62);
+  AddFace(4, 7, 8, 23001);
+  model.Points(0, 4).X = -4;
+  EXPECT_TRUE(Raises(FaultKind::Subscript, [&] { SyncFaceCorners(model, 0); }));
+  EXPECT_EQ(model.Faces(0, 3).c1X, -4);
+  EXPECT_EQ(model.Faces(0, 4).c1X, 0);
+  model.Part(0).maxfaces = 0;
+  SyncFaceCorners(model, 0);
+  model.Part(0).maxfaces = 7701;
+  EXPECT_TRUE(Raises(FaultKind::Subscript, [&] { SyncFaceCorners(model, 0); }));
+}
+
+}  // namespace
+}  // namespace pelorium

@@ -1,0 +1,223 @@
+// Picture files: what is saved comes back pixel by pixel, and no broken file gets past the reader.
+#include "platform/picture_files.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "base/fault.h"
+#include "base/files.h"
+
+namespace pelorium {
+namespace {
+
+namespace fs = std::filesystem;
+
+class PictureFiles : public testing::Test {
+ protected:
+  PictureFiles() {
+    std::string name = (fs::temp_directory_path() / "pelorium-pictures-XXXXXX").string();
+    folder_ = mkdtemp(name.data());
+  }
+  ~PictureFiles() override { fs::remove_all(folder_); }
+
+  fs::path WriteBytes(const std::string& name, const std::string& bytes) const {
+    WriteFile(folder_ / name, [&](TextWriter& writer) { writer.Text(bytes); });
+    return folder_ / name;
+  }
+
+  std::size_t FilesInFolder() const {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()));
+  }
+
+  fs::path folder_;
+};
+
+// Every pixel another colour, so that an exchange of rows, columns or channels shows.
+Picture Motley(int width, int height) {
+  Picture picture(width, height);
+  std::vector<std::uint32_t> pixels;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) pixels.push_back(Rgb(10 + 7 * x, 250 - 11 * y, 3 * x + 5 * y));
+  }
+  picture.SetPixels(pixels);
+  return picture;
+}
+
+std::string Little(std::uint64_t value, int bytes) {
+  std::string text;
+  for (int i = 0; i < bytes; ++i, value >>= 8) text += static_cast<char>(value & 0xFF);
+  return text;
+}
+
+struct BmpFields {
+  std::uint32_t pixelsAt = 54, width = 2, height = 2, bits = 24, compression = 0, colours = 0;
+};
+
+std::string BmpHeader(const BmpFields& fields) {
+  return "BM" + Little(0, 4) + Little(0, 4) + Little(fields.pixelsAt, 4) + Little(40, 4) +
+         Little(fields.width, 4) + Little(fields.height, 4) + Little(1, 2) + Little(fields.bits, 2) +
+         Little(fields.compression, 4) + Little(0, 12) + Little(fields.colours, 4) + Little(0, 4);
+}
+
+void ExpectRefused(const fs::path& path) {
+  Picture picture = Motley(4, 3);
+  const std::vector<std::uint32_t> before = picture.Pixels();
+  try {
+    LoadPicture(picture, path);
+    ADD_FAILURE() << path << " was taken";
+  } catch (const Fault& fault) {
+    EXPECT_EQ(fault.kind(), FaultKind::FileError);
+  }
+  EXPECT_EQ(picture.PixelWidth(), 4);
+  EXPECT_EQ(picture.PixelHeight(), 3);
+  EXPECT_EQ(picture.Pixels(), before);
+}
+
+TEST_F(PictureFiles, ComeBackPixelByPixel) {
+  for (const char* name : {"a.png", "a.bmp", "UPPER.PNG", "Mixed.BmP"}) {
+    for (int width : {1, 2, 3, 4, 5, 31}) {
+      const Picture saved = Motley(width, 7);
+      SavePicture(saved, folder_ / name);
+      Picture loaded(10, 10);
+      LoadPicture(loaded, folder_ / name);
+      EXPECT_EQ(loaded.PixelWidth(), width) << name;
+      EXPECT_EQ(loaded.PixelHeight(), 7) << name;
+      EXPECT_EQ(loaded.Pixels(), saved.Pixels()) << name;
+    }
+  }
+}
+
+TEST_F(PictureFiles, TakeAwkwardNames) {
+  const std::string longName = std::string(200, 'n') + ".png";
+  for (const std::string& name : {std::string("a b.c.png"), std::string("\xC3\xA4\xE2\x82\xAC.bmp"),
+                                  std::string("\xFF\xFE.png"), std::string("%s\"'\n.bmp"), longName}) {
+    const Picture saved = Motley(3, 3);
+    SavePicture(saved, folder_ / name);
+    Picture loaded(1, 1);
+    LoadPicture(loaded, folder_ / name);
+    EXPECT_EQ(loaded.Pixels(), saved.Pixels());
+  }
+  EXPECT_EQ(FilesInFolder(), 5u);
+}
+
+TEST_F(PictureFiles, AreRefusedWhenCutAnywhere) {
+  for (const std::string name : {"cut.png", "cut.bmp"}) {
+    SavePicture(Motley(5, 4), folder_ / name);
+    const std::string whole = ReadFile(folder_ / name);
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+      ExpectRefused(WriteBytes(name, whole.substr(0, length)));
+    }
+  }
+}
+
+TEST_F(PictureFiles, WithAnyByteChangedLoadOrAreRefused) {
+  for (const std::string name : {"odd.png", "odd.bmp"}) {
+    SavePicture(Motley(5, 4), folder_ / name);
+    const std::string whole = ReadFile(folder_ / name);
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+      std::string odd = whole;
+      odd[at] = static_cast<char>(odd[at] ^ 0xFF);
+      WriteBytes(name, odd);
+      Picture picture(2, 2);
+      try {
+        LoadPicture(picture, folder_ / name);
+        EXPECT_EQ(picture.Pixels().size(),
+                  static_cast<std::size_t>(picture.PixelWidth() * picture.PixelHeight()));
+      } catch (const Fault& fault) {
+        EXPECT_EQ(fault.kind(), FaultKind::FileError);
+        EXPECT_EQ(picture.PixelWidth(), 2);
+      }
+    }
+  }
+}
+
+TEST_F(PictureFiles, NeedAKnownEnding) {
+  const Picture picture = Motley(2, 2);
+  for (const char* name : {"a.jpg", "a", "a.png.txt", "png"}) {
+    EXPECT_THROW(SavePicture(picture, folder_ / name), Fault) << name;
+    ExpectRefused(folder_ / name);
+  }
+  EXPECT_EQ(FilesInFolder(), 0u);
+}
+
+TEST_F(PictureFiles, HoldWhatTheirEndingSays) {
+  SavePicture(Motley(2, 2), folder_ / "a.bmp");
+  fs::rename(folder_ / "a.bmp", folder_ / "a.png");
+  ExpectRefused(folder_ / "a.png");
+  ExpectRefused(folder_ / "missing.png");
+}
+
+TEST_F(PictureFiles, StayWhenASaveFails) {
+  SavePicture(Motley(2, 2), folder_ / "a.png");
+  const std::string before = ReadFile(folder_ / "a.png");
+  EXPECT_THROW(SavePicture(Motley(3, 3), folder_ / "missing" / "a.png"), Fault);
+  EXPECT_EQ(ReadFile(folder_ / "a.png"), before);
+  EXPECT_EQ(FilesInFolder(), 1u);
+}
+
+TEST_F(PictureFiles, WriteTheLowestRowFirstInBlueGreenRed) {
+  Picture picture(1, 2);
+  picture.SetPixels({Rgb(1, 2, 3), Rgb(4, 5, 6)});
+  SavePicture(picture, folder_ / "a.bmp");
+  const std::string bytes = ReadFile(folder_ / "a.bmp");
+  ASSERT_EQ(bytes.size(), 54u + 8u);
+  EXPECT_EQ(bytes.substr(54), std::string("\x06\x05\x04\0\x03\x02\x01\0", 8));
+  EXPECT_EQ(bytes.substr(2, 4), Little(62, 4));
+}
+
+TEST_F(PictureFiles, OfThirtyTwoBitsAreReadFromTheTop) {
+  const std::string rows =
+      Little(0xFF010203, 4) + Little(0x040506, 4) + Little(0x070809, 4) + Little(0x0A0B0C, 4);
+  Picture picture(1, 1);
+  LoadPicture(picture, WriteBytes("a.bmp", BmpHeader({.height = 0xFFFFFFFE, .bits = 32}) + rows));
+  const std::vector<std::uint32_t> expected = {Rgb(1, 2, 3), Rgb(4, 5, 6), Rgb(7, 8, 9), Rgb(10, 11, 12)};
+  EXPECT_EQ(picture.Pixels(), expected);
+}
+
+TEST_F(PictureFiles, OfEightBitsTakeTheirPalette) {
+  const std::string palette = Little(0x00102030, 4) + Little(0x00405060, 4);
+  const std::string rows = Little(0x0100, 4) + Little(0x0501, 4);  // 5 lies behind the palette
+  Picture picture(1, 1);
+  LoadPicture(picture,
+              WriteBytes("a.bmp", BmpHeader({.pixelsAt = 62, .bits = 8, .colours = 2}) + palette + rows));
+  const std::vector<std::uint32_t> expected = {Rgb(0x40, 0x50, 0x60), 0, Rgb(0x10, 0x20, 0x30),
+                                               Rgb(0x40, 0x50, 0x60)};
+  EXPECT_EQ(picture.Pixels(), expected);
+}
+
+TEST_F(PictureFiles, WithImpossibleHeadersAreRefused) {
+  const std::string pixels(16, '\1');
+  ExpectRefused(WriteBytes("fits.bmp", BmpHeader({.bits = 16}) + pixels));
+  for (const BmpFields& fields : std::initializer_list<BmpFields>{{.width = 0},
+                                                                  {.height = 0},
+                                                                  {.width = 16385, .height = 1},
+                                                                  {.width = 0x7FFFFFFF, .height = 0x7FFFFFFF},
+                                                                  {.width = 16384, .height = 16384},
+                                                                  {.height = 0x80000000},
+                                                                  {.width = 0xFFFFFFFE},
+                                                                  {.compression = 1},
+                                                                  {.pixelsAt = 0},
+                                                                  {.pixelsAt = 0xFFFFFFFF},
+                                                                  {.bits = 8},
+                                                                  {.bits = 8, .colours = 257},
+                                                                  {.bits = 8, .colours = 0xFFFFFFFF}}) {
+    ExpectRefused(WriteBytes("bad.bmp", BmpHeader(fields) + pixels));
+  }
+}
+
+TEST_F(PictureFiles, OfPngThatClaimMoreThanTheyHoldAreRefused) {
+  // A first chunk with right check sums and sides of 16385 and of 16384, then nothing that could fill them.
+  const std::string start("\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR", 16);
+  const std::string end("\0\0\0\0IEND\xAE\x42\x60\x82", 12);
+  const std::string tooWide = start + std::string("\0\0\x40\x01\0\0\0\x01\x08\x02\0\0\0\x46\x3F\x4A\x31", 17);
+  const std::string tooLarge = start + std::string("\0\0\x40\0\0\0\x40\0\x08\x02\0\0\0\x26\xAA\x87\xD3", 17);
+  ExpectRefused(WriteBytes("wide.png", tooWide + end));
+  ExpectRefused(WriteBytes("large.png", tooLarge + end));
+}
+
+}  // namespace
+}  // namespace pelorium
