@@ -27,7 +27,7 @@ void AddTetrahedron(ModelStore& model, int part) {
 // The shortest whole file: two empty Parts, and nothing but empty items up to the group names.
 void WriteEmptyItems(TextWriter& out) {
   out.Line("0,0,0,0,0,0,0,0,31,31");
-  constexpr int kItemsOfAProfile = 23, kItemsOfAPoint = 29, kItemsOfAGroup = 24, kProfiles = kMaxProfile + 1;
+  constexpr int kItemsOfAProfile = 24, kItemsOfAPoint = 29, kItemsOfAGroup = 24, kProfiles = kMaxProfile + 1;
   out.Line(std::string(kProfiles * (kItemsOfAProfile + kProfiles * kItemsOfAPoint), ','));
   for (int group = 0; group < kMaxGroup; ++group) {
     out.Line(std::string(kItemsOfAGroup - 1, ',') + "0");

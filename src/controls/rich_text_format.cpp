@@ -26,7 +26,11 @@ Colours ColoursOf(const std::vector<TextParagraph>& paragraphs) {
   return colours;
 }
 
-std::string Word(const char* name, long value) { return "\\" + std::string(name) + std::to_string(value); }
+std::string Word(const char* name, long value) {
+  std::string word = "\\";
+  word += name;
+  return word += std::to_string(value);
+}
 
 std::string ColourTable(const Colours& colours) {
   std::string table = "{\\colortbl ;";

@@ -1,8 +1,11 @@
-// A quiet dark ground, near the ground of the model's picture, with texts of high contrast.
+// A quiet light ground with texts of high contrast; the dark pictures stand out from it.
 #include "desktop/appearance.h"
 
 #include <QApplication>
+#include <QIcon>
+#include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QProxyStyle>
 #include <QStyleFactory>
 
@@ -17,16 +20,25 @@ struct PaletteEntry {
 };
 
 constexpr PaletteEntry kPalette[] = {
-    {QPalette::Window, 0xFF3B3E43, 0xFF3B3E43},      {QPalette::WindowText, 0xFFE6E6E6, 0xFF8F9296},
-    {QPalette::Base, 0xFF292B2F, 0xFF34373B},        {QPalette::AlternateBase, 0xFF303338, 0xFF34373B},
-    {QPalette::Text, 0xFFF0F0F0, 0xFF8F9296},        {QPalette::PlaceholderText, 0xFF9A9DA1, 0xFF8F9296},
-    {QPalette::Button, 0xFF4E5258, 0xFF43464B},      {QPalette::ButtonText, 0xFFF0F0F0, 0xFF8F9296},
-    {QPalette::BrightText, 0xFFFFFFFF, 0xFFFFFFFF},  {QPalette::Light, 0xFF6A6F76, 0xFF55585D},
-    {QPalette::Midlight, 0xFF575B61, 0xFF4A4D52},    {QPalette::Mid, 0xFF33363A, 0xFF33363A},
-    {QPalette::Dark, 0xFF26282B, 0xFF26282B},        {QPalette::Shadow, 0xFF141516, 0xFF141516},
-    {QPalette::Highlight, 0xFF3D7EBB, 0xFF5A6067},   {QPalette::HighlightedText, 0xFFFFFFFF, 0xFFC0C0C0},
-    {QPalette::Link, 0xFF7DB7EE, 0xFF8F9296},        {QPalette::ToolTipBase, 0xFFF3F0DC, 0xFFF3F0DC},
-    {QPalette::ToolTipText, 0xFF1E1E1E, 0xFF1E1E1E},
+    {QPalette::Window, 0xFFE2E4E7, 0xFFE2E4E7},
+    {QPalette::WindowText, 0xFF16181A, 0xFF7C8085},
+    {QPalette::Base, 0xFFFDFDFD, 0xFFEEEFF1},
+    {QPalette::AlternateBase, 0xFFF1F3F5, 0xFFEEEFF1},
+    {QPalette::Text, 0xFF101214, 0xFF7C8085},
+    {QPalette::PlaceholderText, 0xFF6F7378, 0xFF7C8085},
+    {QPalette::Button, 0xFFEBEDEF, 0xFFE2E4E7},
+    {QPalette::ButtonText, 0xFF16181A, 0xFF7C8085},
+    {QPalette::BrightText, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::Light, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::Midlight, 0xFFF0F1F3, 0xFFF0F1F3},
+    {QPalette::Mid, 0xFFB4B8BD, 0xFFB4B8BD},
+    {QPalette::Dark, 0xFF8E9399, 0xFF8E9399},
+    {QPalette::Shadow, 0xFF5A5E63, 0xFF5A5E63},
+    {QPalette::Highlight, 0xFF2A6FB0, 0xFF9DA5AD},
+    {QPalette::HighlightedText, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::Link, 0xFF1B5E9E, 0xFF7C8085},
+    {QPalette::ToolTipBase, 0xFFFFFBE6, 0xFFFFFBE6},
+    {QPalette::ToolTipText, 0xFF16181A, 0xFF16181A},
 };
 
 // Alt alone leads into the menu bar, whose heads carry no letters of their own.
@@ -40,6 +52,21 @@ class PeloriumStyle : public QProxyStyle {
   }
 };
 
+// A faceted drop in wires.
+QIcon MakeIcon() {
+  constexpr int kSide = 64;
+  const QPolygonF outline({{32, 5}, {56, 24}, {47, 57}, {17, 57}, {8, 24}});
+  QPixmap pixmap(kSide, kSide);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(0xFFFFD27A), 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(QColor(0xFFB4541E));
+  painter.drawPolygon(outline);
+  for (const QPointF& corner : outline) painter.drawLine(QPointF(32, 32), corner);
+  return pixmap;
+}
+
 }  // namespace
 
 void SetAppearance(QApplication& application) {
@@ -50,6 +77,7 @@ void SetAppearance(QApplication& application) {
     palette.setColor(QPalette::Disabled, entry.role, QColor(entry.disabled));
   }
   application.setPalette(palette);
+  application.setWindowIcon(MakeIcon());
 }
 
 }  // namespace pelorium

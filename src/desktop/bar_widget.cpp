@@ -29,9 +29,8 @@ BarWidget::BarWidget(ScrollBar& bar, Qt::Orientation orientation, Dispatcher& di
 
 void BarWidget::Sync() {
   const QSignalBlocker quiet(this);
-  const auto [low, high] = std::minmax(bar_.min(), bar_.max());
   const bool isSwapped = bar_.max() < bar_.min();
-  setRange(low, high);
+  setRange(std::min(bar_.min(), bar_.max()), std::max(bar_.min(), bar_.max()));
   setInvertedAppearance(isSwapped);
   setInvertedControls(isSwapped);
   setSingleStep(std::max(1, bar_.smallChange));

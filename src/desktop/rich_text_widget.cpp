@@ -120,9 +120,9 @@ void RichTextWidget::ShowSelection() {
 
 void RichTextWidget::OnTextChanged() {
   if (isSyncing_) return;
-  const std::u32string before = FromUtf8(box_.text().Plain());
+  const std::u32string textBefore = FromUtf8(box_.text().Plain());
   const std::u32string after = toPlainText().toStdU32String();
-  const Difference changed = Between(before, after);
+  const Difference changed = Between(textBefore, after);
   if (changed.removed == 0 && changed.added == 0) return;
   box_.ReplaceRange(static_cast<int>(changed.start), static_cast<int>(changed.removed),
                     ToUtf8(after.substr(changed.start, changed.added)));

@@ -6,13 +6,9 @@
 #include <vector>
 
 #include "base/colour.h"
+#include "graphics/rasteriser.h"
 
 namespace pelorium {
-
-struct Pixel {
-  int x;  // from the left
-  int y;  // from the top
-};
 
 // A line shown over the picture and not part of it; in user units.
 struct OverlayLine {
@@ -92,9 +88,6 @@ class Picture {
   std::int16_t StoredWidth() const;
   void Record(const Call& call);
   void Rasterise() const;
-  void RasteriseLine(const Call& call) const;
-  void RasteriseDot(Pixel at, int width, Colour colour) const;
-  void FillSpan(int y, int left, int right, Colour colour) const;
 
   int width_, height_;
   double scaleWidth_, scaleHeight_;

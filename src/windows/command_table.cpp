@@ -44,17 +44,17 @@ void SwitchOn(App& app, std::string_view place) {
   if (auto* option = dynamic_cast<OptionButton*>(FindControl(app, place))) option->SetValue(true);
 }
 
-const Command* FindCommand(std::string_view name) {
-  const auto found = std::find_if(Commands().begin(), Commands().end(),
-                                  [name](const Command& command) { return command.name == name; });
-  return found == Commands().end() ? nullptr : &*found;
+const MenuCommand* FindMenuCommand(std::string_view name) {
+  const auto found = std::find_if(MenuCommands().begin(), MenuCommands().end(),
+                                  [name](const MenuCommand& command) { return command.name == name; });
+  return found == MenuCommands().end() ? nullptr : &*found;
 }
 
 }  // namespace
 
-const std::vector<Command>& Commands() {
+const std::vector<MenuCommand>& MenuCommands() {
   using enum CommandKind;
-  static const std::vector<Command> kCommands = {
+  static const std::vector<MenuCommand> kCommands = {
       {"", "Files |", "fileit"},
       {"fileit", "Open project", "openproj", Press, "Form31.Command15"},
       {"fileit", "Save project", "saveproj", Press, "Form31.Command14"},
@@ -167,7 +167,7 @@ const std::vector<Command>& Commands() {
   return kCommands;
 }
 
-bool IsAvailable(const App& app, const Command& command) {
+bool IsAvailable(const App& app, const MenuCommand& command) {
   switch (command.kind) {
     case CommandKind::Head:
       return true;
@@ -186,7 +186,7 @@ bool IsAvailable(const App& app, const Command& command) {
   return false;
 }
 
-void RunCommand(App& app, const Command& command) {
+void RunMenuCommand(App& app, const MenuCommand& command) {
   switch (command.kind) {
     case CommandKind::Head:
       return;
@@ -252,11 +252,11 @@ std::vector<std::unique_ptr<PushButton>> MakeCommandRow(Window& window) {
 
 void BindCommandRow(App& app, const std::vector<std::unique_ptr<PushButton>>& row) {
   for (std::size_t i = 0; i < row.size(); ++i) {
-    const Command* command = FindCommand(CommandButtons()[i].menuItem);
+    const MenuCommand* command = FindMenuCommand(CommandButtons()[i].menuItem);
     if (command == nullptr) continue;
     row[i]->SetEnabled(IsAvailable(app, *command));
     row[i]->SetToolTip(std::string(command->caption));
-    row[i]->onClick = [&app, command](const Click&) { RunCommand(app, *command); };
+    row[i]->onClick = [&app, command](const Click&) { RunMenuCommand(app, *command); };
   }
 }
 

@@ -22,7 +22,7 @@ enum class CommandKind {
   Run,        // runs `run`
 };
 
-struct Command {
+struct MenuCommand {
   std::string_view menu;  // the head it stands under; empty for the menu bar itself
   std::string_view caption;
   std::string_view name;
@@ -32,12 +32,12 @@ struct Command {
   std::string_view also = {};
 };
 
-const std::vector<Command>& Commands();
+const std::vector<MenuCommand>& MenuCommands();
 
 // True when all that the command needs exists: its window, its button (and that is enabled), its routine.
 // Commands whose window is still to come stand in the menu disabled.
-bool IsAvailable(const App& app, const Command& command);
-void RunCommand(App& app, const Command& command);
+bool IsAvailable(const App& app, const MenuCommand& command);
+void RunMenuCommand(App& app, const MenuCommand& command);
 
 // A button of the view window that does what a menu item does.
 struct CommandButton {

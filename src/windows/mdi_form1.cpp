@@ -33,7 +33,7 @@ MenuItem* FindItem(const std::vector<std::unique_ptr<MenuItem>>& menu, std::stri
 }  // namespace
 
 MDIForm1::MDIForm1(App& app) : Window(app.host, "MDIForm1", kTitle), app_(app) {
-  for (const Command& command : Commands()) {
+  for (const MenuCommand& command : MenuCommands()) {
     menu_.push_back(std::make_unique<MenuItem>(*this, std::string(command.name), std::string(command.caption),
                                                FindItem(menu_, command.menu)));
   }
@@ -63,10 +63,10 @@ void MDIForm1::SetLimits() {
 }
 
 void MDIForm1::BindCommands() {
-  for (const Command& command : Commands()) {
+  for (const MenuCommand& command : MenuCommands()) {
     MenuItem* item = FindItem(menu_, command.name);
     item->SetEnabled(IsAvailable(app_, command));
-    item->onClick = [this, &command](const Click&) { RunCommand(app_, command); };
+    item->onClick = [this, &command](const Click&) { RunMenuCommand(app_, command); };
   }
   BindCommandRow(app_, app_.form36.commandRow);
 }

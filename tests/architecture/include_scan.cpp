@@ -81,19 +81,30 @@ bool IsAllowed(const std::string& from, const Include& include) {
   return to == from || (floor != kFloors.end() && floor->second.count(to) != 0);
 }
 
-bool IsWindowHeader(const std::string& path) {
-  return FolderOf(path) == "windows" && path != "windows/app.h";
+// A header that declares a window, rather than what windows share.
+bool DeclaresAWindow(const Sources& sources, const std::string& path) {
+  const auto source = sources.find(path);
+  return source != sources.end() && source->second.find(": public Window {") != std::string::npos;
 }
 
-void CollectWindows(const Sources& sources, const std::string& path, bool throughOthers,
-                    std::set<std::string>& windows) {
+// The headers that a file names, and with `throughOthers` those that they name in turn.
+void CollectHeaders(const Sources& sources, const std::string& path, bool throughOthers,
+                    std::set<std::string>& headers) {
   const auto source = sources.find(path);
   if (source == sources.end()) return;
   for (const Include& include : IncludesOf(source->second)) {
-    if (IsWindowHeader(include.path) && windows.insert(include.path).second && throughOthers) {
-      CollectWindows(sources, include.path, true, windows);
+    if (headers.insert(include.path).second && throughOthers) {
+      CollectHeaders(sources, include.path, true, headers);
     }
   }
+}
+
+std::size_t WindowsPulledInBy(const Sources& sources, const std::string& path) {
+  std::set<std::string> headers;
+  CollectHeaders(sources, path, path.ends_with(".h"), headers);
+  headers.erase(path.substr(0, path.rfind('.')) + ".h");  // its own
+  return static_cast<std::size_t>(std::count_if(
+      headers.begin(), headers.end(), [&](const auto& header) { return DeclaresAWindow(sources, header); }));
 }
 
 }  // namespace
@@ -122,11 +133,9 @@ std::vector<std::string> UmbrellaIncludes(const Sources& sources) {
   std::vector<std::string> umbrellas;
   for (const auto& [path, text] : sources) {
     if (path == "windows/app.cpp") continue;
-    std::set<std::string> windows;
-    CollectWindows(sources, path, path.ends_with(".h"), windows);
-    windows.erase(path.substr(0, path.rfind('.')) + ".h");
-    if (windows.size() > kWindowsOneTalksTo) {
-      umbrellas.push_back(path + " pulls in " + std::to_string(windows.size()) + " windows");
+    const std::size_t windows = WindowsPulledInBy(sources, path);
+    if (windows > kWindowsOneTalksTo) {
+      umbrellas.push_back(path + " pulls in " + std::to_string(windows) + " windows");
     }
   }
   return umbrellas;

@@ -16,13 +16,13 @@ namespace {
 constexpr TextFormat kPlain{};
 constexpr TextFormat kBold{.bold = true};
 
-struct RichTextBoxTest : testing::Test {
+struct RichTextBoxes : testing::Test {
   ControlHost host;
   Window window{host, "w", "a window"};
   RichTextBox box{window, "box"};
   int changes = 0;
 
-  RichTextBoxTest() {
+  RichTextBoxes() {
     box.onChange = [this] { ++changes; };
   }
   std::vector<TextRun> Runs(std::size_t paragraph = 0) const {
@@ -30,9 +30,9 @@ struct RichTextBoxTest : testing::Test {
   }
 };
 
-using Utf8Test = testing::Test;
+using Utf8 = testing::Test;
 
-TEST_F(Utf8Test, CharactersComeBack) {
+TEST_F(Utf8, CharactersComeBack) {
   for (const char32_t character :
        {U'\0', U'a', U'\x7F', U'\x80', U'\x7FF', U'\x800', U'\xFFFF', U'\x10000', U'\x10FFFF'}) {
     std::string bytes;
@@ -41,7 +41,7 @@ TEST_F(Utf8Test, CharactersComeBack) {
   }
 }
 
-TEST_F(Utf8Test, WhatIsNoCharacterIsTakenByteByByte) {
+TEST_F(Utf8, WhatIsNoCharacterIsTakenByteByByte) {
   EXPECT_EQ(FromUtf8("\xE4x"), U"\xE4x");                        // Latin-1
   EXPECT_EQ(FromUtf8("\xE2\x82"), U"\xE2\x82");                  // cut
   EXPECT_EQ(FromUtf8("\xC0\x80"), U"\xC0\x80");                  // longer than needed
@@ -53,14 +53,14 @@ TEST_F(Utf8Test, WhatIsNoCharacterIsTakenByteByByte) {
   EXPECT_EQ(bytes, "\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
-TEST_F(RichTextBoxTest, ValueIsThePlainText) {
+TEST_F(RichTextBoxes, ValueIsThePlainText) {
   box.SetOwnValue(std::string("one\r\ntwo\rthree\n"));
   EXPECT_EQ(AsText(box.Value()), "one\ntwo\nthree\n");
   EXPECT_EQ(box.text().paragraphs(), 4);
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(RichTextBoxTest, TheSelectionCountsCharactersAndStaysInTheText) {
+TEST_F(RichTextBoxes, TheSelectionCountsCharactersAndStaysInTheText) {
   box.SetOwnValue(
       std::string("\xC3\xA4\xE2\x82\xAC"
                   "bc"));
@@ -77,7 +77,7 @@ TEST_F(RichTextBoxTest, TheSelectionCountsCharactersAndStaysInTheText) {
   EXPECT_EQ(box.selectionStart(), 4);
 }
 
-TEST_F(RichTextBoxTest, BoldGoesOnAllUnlessAllIsBold) {
+TEST_F(RichTextBoxes, BoldGoesOnAllUnlessAllIsBold) {
   box.SetOwnValue(std::string("abcd"));
   box.SetSelection(1, 2);
   box.ToggleBold();
@@ -90,7 +90,7 @@ TEST_F(RichTextBoxTest, BoldGoesOnAllUnlessAllIsBold) {
   EXPECT_EQ(Runs(), (std::vector<TextRun>{{"abcd", kPlain}}));
 }
 
-TEST_F(RichTextBoxTest, LooksOfEverySort) {
+TEST_F(RichTextBoxes, LooksOfEverySort) {
   box.SetOwnValue(std::string("ab"));
   box.SetSelection(0, 1);
   box.ToggleItalic();
@@ -106,7 +106,7 @@ TEST_F(RichTextBoxTest, LooksOfEverySort) {
   EXPECT_EQ(box.SelectionFormat().points, kLargestText);
 }
 
-TEST_F(RichTextBoxTest, LineEndsDoNotCountForAToggle) {
+TEST_F(RichTextBoxes, LineEndsDoNotCountForAToggle) {
   box.SetOwnValue(std::string("a\nb"));
   box.SetSelection(0, 1);
   box.ToggleBold();
@@ -118,7 +118,7 @@ TEST_F(RichTextBoxTest, LineEndsDoNotCountForAToggle) {
   EXPECT_EQ(Runs(1), (std::vector<TextRun>{{"b", kPlain}}));
 }
 
-TEST_F(RichTextBoxTest, WithNothingSelectedALookHoldsForWhatIsTyped) {
+TEST_F(RichTextBoxes, WithNothingSelectedALookHoldsForWhatIsTyped) {
   box.SetOwnValue(std::string("ad"));
   box.SetSelection(1, 0);
   box.ToggleBold();
@@ -131,7 +131,7 @@ TEST_F(RichTextBoxTest, WithNothingSelectedALookHoldsForWhatIsTyped) {
   EXPECT_EQ(Runs()[0], (TextRun{"xa", kPlain}));
 }
 
-TEST_F(RichTextBoxTest, BulletsStandOnAllTouchedParagraphs) {
+TEST_F(RichTextBoxes, BulletsStandOnAllTouchedParagraphs) {
   box.SetOwnValue(std::string("a\nb\nc"));
   const auto bullets = [this] {
     return std::vector<bool>{box.text().bullet(0), box.text().bullet(1), box.text().bullet(2)};
@@ -147,7 +147,7 @@ TEST_F(RichTextBoxTest, BulletsStandOnAllTouchedParagraphs) {
   EXPECT_EQ(bullets(), (std::vector<bool>{false, false, false}));
 }
 
-TEST_F(RichTextBoxTest, ReplacedParagraphsKeepTheirBullets) {
+TEST_F(RichTextBoxes, ReplacedParagraphsKeepTheirBullets) {
   box.SetOwnValue(std::string("a\nb\nc"));
   box.SetSelection(2, 0);
   box.ToggleBullet();
@@ -162,7 +162,7 @@ TEST_F(RichTextBoxTest, ReplacedParagraphsKeepTheirBullets) {
   EXPECT_EQ(box.selectionStart(), 1);
 }
 
-TEST_F(RichTextBoxTest, AReplacementLooksLikeWhatItReplaces) {
+TEST_F(RichTextBoxes, AReplacementLooksLikeWhatItReplaces) {
   box.SetOwnValue(std::string("abc"));
   box.SetSelection(1, 1);
   box.ToggleBold();

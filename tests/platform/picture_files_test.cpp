@@ -1,39 +1,28 @@
 // Picture files: what is saved comes back pixel by pixel, and no broken file gets past the reader.
 #include "platform/picture_files.h"
 
-#include <gtest/gtest.h>
-#include <unistd.h>
-
-#include <cstdlib>
+#include <iterator>
 #include <string>
 #include <vector>
 
-#include "base/fault.h"
-#include "base/files.h"
+#include "support/harness.h"
 
 namespace pelorium {
 namespace {
 
 namespace fs = std::filesystem;
 
-class PictureFiles : public testing::Test {
+class PictureFiles : public FolderTest {
  protected:
-  PictureFiles() {
-    std::string name = (fs::temp_directory_path() / "pelorium-pictures-XXXXXX").string();
-    folder_ = mkdtemp(name.data());
-  }
-  ~PictureFiles() override { fs::remove_all(folder_); }
-
-  fs::path WriteBytes(const std::string& name, const std::string& bytes) const {
-    WriteFile(folder_ / name, [&](TextWriter& writer) { writer.Text(bytes); });
-    return folder_ / name;
+  fs::path Write(const std::string& name, const std::string& bytes) const {
+    WriteBytes(folder() / name, bytes);
+    return folder() / name;
   }
 
   std::size_t FilesInFolder() const {
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()));
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder()), fs::directory_iterator()));
   }
-
-  fs::path folder_;
 };
 
 // Every pixel another colour, so that an exchange of rows, columns or channels shows.
@@ -66,12 +55,7 @@ std::string BmpHeader(const BmpFields& fields) {
 void ExpectRefused(const fs::path& path) {
   Picture picture = Motley(4, 3);
   const std::vector<std::uint32_t> before = picture.Pixels();
-  try {
-    LoadPicture(picture, path);
-    ADD_FAILURE() << path << " was taken";
-  } catch (const Fault& fault) {
-    EXPECT_EQ(fault.kind(), FaultKind::FileError);
-  }
+  EXPECT_TRUE(Raises(FaultKind::FileError, [&] { LoadPicture(picture, path); })) << path;
   EXPECT_EQ(picture.PixelWidth(), 4);
   EXPECT_EQ(picture.PixelHeight(), 3);
   EXPECT_EQ(picture.Pixels(), before);
@@ -81,9 +65,9 @@ TEST_F(PictureFiles, ComeBackPixelByPixel) {
   for (const char* name : {"a.png", "a.bmp", "UPPER.PNG", "Mixed.BmP"}) {
     for (int width : {1, 2, 3, 4, 5, 31}) {
       const Picture saved = Motley(width, 7);
-      SavePicture(saved, folder_ / name);
+      SavePicture(saved, folder() / name);
       Picture loaded(10, 10);
-      LoadPicture(loaded, folder_ / name);
+      LoadPicture(loaded, folder() / name);
       EXPECT_EQ(loaded.PixelWidth(), width) << name;
       EXPECT_EQ(loaded.PixelHeight(), 7) << name;
       EXPECT_EQ(loaded.Pixels(), saved.Pixels()) << name;
@@ -96,9 +80,9 @@ TEST_F(PictureFiles, TakeAwkwardNames) {
   for (const std::string& name : {std::string("a b.c.png"), std::string("\xC3\xA4\xE2\x82\xAC.bmp"),
                                   std::string("\xFF\xFE.png"), std::string("%s\"'\n.bmp"), longName}) {
     const Picture saved = Motley(3, 3);
-    SavePicture(saved, folder_ / name);
+    SavePicture(saved, folder() / name);
     Picture loaded(1, 1);
-    LoadPicture(loaded, folder_ / name);
+    LoadPicture(loaded, folder() / name);
     EXPECT_EQ(loaded.Pixels(), saved.Pixels());
   }
   EXPECT_EQ(FilesInFolder(), 5u);
@@ -106,25 +90,25 @@ TEST_F(PictureFiles, TakeAwkwardNames) {
 
 TEST_F(PictureFiles, AreRefusedWhenCutAnywhere) {
   for (const std::string name : {"cut.png", "cut.bmp"}) {
-    SavePicture(Motley(5, 4), folder_ / name);
-    const std::string whole = ReadFile(folder_ / name);
+    SavePicture(Motley(5, 4), folder() / name);
+    const std::string whole = BytesOf(folder() / name);
     for (std::size_t length = 0; length < whole.size(); ++length) {
-      ExpectRefused(WriteBytes(name, whole.substr(0, length)));
+      ExpectRefused(Write(name, whole.substr(0, length)));
     }
   }
 }
 
 TEST_F(PictureFiles, WithAnyByteChangedLoadOrAreRefused) {
   for (const std::string name : {"odd.png", "odd.bmp"}) {
-    SavePicture(Motley(5, 4), folder_ / name);
-    const std::string whole = ReadFile(folder_ / name);
+    SavePicture(Motley(5, 4), folder() / name);
+    const std::string whole = BytesOf(folder() / name);
     for (std::size_t at = 0; at < whole.size(); ++at) {
       std::string odd = whole;
       odd[at] = static_cast<char>(odd[at] ^ 0xFF);
-      WriteBytes(name, odd);
+      Write(name, odd);
       Picture picture(2, 2);
       try {
-        LoadPicture(picture, folder_ / name);
+        LoadPicture(picture, folder() / name);
         EXPECT_EQ(picture.Pixels().size(),
                   static_cast<std::size_t>(picture.PixelWidth() * picture.PixelHeight()));
       } catch (const Fault& fault) {
@@ -138,32 +122,33 @@ TEST_F(PictureFiles, WithAnyByteChangedLoadOrAreRefused) {
 TEST_F(PictureFiles, NeedAKnownEnding) {
   const Picture picture = Motley(2, 2);
   for (const char* name : {"a.jpg", "a", "a.png.txt", "png"}) {
-    EXPECT_THROW(SavePicture(picture, folder_ / name), Fault) << name;
-    ExpectRefused(folder_ / name);
+    EXPECT_TRUE(Raises(FaultKind::FileError, [&] { SavePicture(picture, folder() / name); })) << name;
+    ExpectRefused(folder() / name);
   }
   EXPECT_EQ(FilesInFolder(), 0u);
 }
 
 TEST_F(PictureFiles, HoldWhatTheirEndingSays) {
-  SavePicture(Motley(2, 2), folder_ / "a.bmp");
-  fs::rename(folder_ / "a.bmp", folder_ / "a.png");
-  ExpectRefused(folder_ / "a.png");
-  ExpectRefused(folder_ / "missing.png");
+  SavePicture(Motley(2, 2), folder() / "a.bmp");
+  fs::rename(folder() / "a.bmp", folder() / "a.png");
+  ExpectRefused(folder() / "a.png");
+  ExpectRefused(folder() / "missing.png");
 }
 
 TEST_F(PictureFiles, StayWhenASaveFails) {
-  SavePicture(Motley(2, 2), folder_ / "a.png");
-  const std::string before = ReadFile(folder_ / "a.png");
-  EXPECT_THROW(SavePicture(Motley(3, 3), folder_ / "missing" / "a.png"), Fault);
-  EXPECT_EQ(ReadFile(folder_ / "a.png"), before);
+  SavePicture(Motley(2, 2), folder() / "a.png");
+  const std::string before = BytesOf(folder() / "a.png");
+  EXPECT_TRUE(
+      Raises(FaultKind::FileError, [&] { SavePicture(Motley(3, 3), folder() / "missing" / "a.png"); }));
+  EXPECT_EQ(BytesOf(folder() / "a.png"), before);
   EXPECT_EQ(FilesInFolder(), 1u);
 }
 
 TEST_F(PictureFiles, WriteTheLowestRowFirstInBlueGreenRed) {
   Picture picture(1, 2);
   picture.SetPixels({Rgb(1, 2, 3), Rgb(4, 5, 6)});
-  SavePicture(picture, folder_ / "a.bmp");
-  const std::string bytes = ReadFile(folder_ / "a.bmp");
+  SavePicture(picture, folder() / "a.bmp");
+  const std::string bytes = BytesOf(folder() / "a.bmp");
   ASSERT_EQ(bytes.size(), 54u + 8u);
   EXPECT_EQ(bytes.substr(54), std::string("\x06\x05\x04\0\x03\x02\x01\0", 8));
   EXPECT_EQ(bytes.substr(2, 4), Little(62, 4));
@@ -173,7 +158,7 @@ TEST_F(PictureFiles, OfThirtyTwoBitsAreReadFromTheTop) {
   const std::string rows =
       Little(0xFF010203, 4) + Little(0x040506, 4) + Little(0x070809, 4) + Little(0x0A0B0C, 4);
   Picture picture(1, 1);
-  LoadPicture(picture, WriteBytes("a.bmp", BmpHeader({.height = 0xFFFFFFFE, .bits = 32}) + rows));
+  LoadPicture(picture, Write("a.bmp", BmpHeader({.height = 0xFFFFFFFE, .bits = 32}) + rows));
   const std::vector<std::uint32_t> expected = {Rgb(1, 2, 3), Rgb(4, 5, 6), Rgb(7, 8, 9), Rgb(10, 11, 12)};
   EXPECT_EQ(picture.Pixels(), expected);
 }
@@ -182,8 +167,7 @@ TEST_F(PictureFiles, OfEightBitsTakeTheirPalette) {
   const std::string palette = Little(0x00102030, 4) + Little(0x00405060, 4);
   const std::string rows = Little(0x0100, 4) + Little(0x0501, 4);  // 5 lies behind the palette
   Picture picture(1, 1);
-  LoadPicture(picture,
-              WriteBytes("a.bmp", BmpHeader({.pixelsAt = 62, .bits = 8, .colours = 2}) + palette + rows));
+  LoadPicture(picture, Write("a.bmp", BmpHeader({.pixelsAt = 62, .bits = 8, .colours = 2}) + palette + rows));
   const std::vector<std::uint32_t> expected = {Rgb(0x40, 0x50, 0x60), 0, Rgb(0x10, 0x20, 0x30),
                                                Rgb(0x40, 0x50, 0x60)};
   EXPECT_EQ(picture.Pixels(), expected);
@@ -191,7 +175,7 @@ TEST_F(PictureFiles, OfEightBitsTakeTheirPalette) {
 
 TEST_F(PictureFiles, WithImpossibleHeadersAreRefused) {
   const std::string pixels(16, '\1');
-  ExpectRefused(WriteBytes("fits.bmp", BmpHeader({.bits = 16}) + pixels));
+  ExpectRefused(Write("fits.bmp", BmpHeader({.bits = 16}) + pixels));
   for (const BmpFields& fields : std::initializer_list<BmpFields>{{.width = 0},
                                                                   {.height = 0},
                                                                   {.width = 16385, .height = 1},
@@ -205,7 +189,7 @@ TEST_F(PictureFiles, WithImpossibleHeadersAreRefused) {
                                                                   {.bits = 8},
                                                                   {.bits = 8, .colours = 257},
                                                                   {.bits = 8, .colours = 0xFFFFFFFF}}) {
-    ExpectRefused(WriteBytes("bad.bmp", BmpHeader(fields) + pixels));
+    ExpectRefused(Write("bad.bmp", BmpHeader(fields) + pixels));
   }
 }
 
@@ -215,8 +199,8 @@ TEST_F(PictureFiles, OfPngThatClaimMoreThanTheyHoldAreRefused) {
   const std::string end("\0\0\0\0IEND\xAE\x42\x60\x82", 12);
   const std::string tooWide = start + std::string("\0\0\x40\x01\0\0\0\x01\x08\x02\0\0\0\x46\x3F\x4A\x31", 17);
   const std::string tooLarge = start + std::string("\0\0\x40\0\0\0\x40\0\x08\x02\0\0\0\x26\xAA\x87\xD3", 17);
-  ExpectRefused(WriteBytes("wide.png", tooWide + end));
-  ExpectRefused(WriteBytes("large.png", tooLarge + end));
+  ExpectRefused(Write("wide.png", tooWide + end));
+  ExpectRefused(Write("large.png", tooLarge + end));
 }
 
 }  // namespace

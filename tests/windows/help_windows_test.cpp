@@ -1,14 +1,9 @@
 // The help, about and splash windows, by pressing their controls.
-#include <gtest/gtest.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <set>
 #include <string>
 
-#include "base/files.h"
-#include "controls/rich_text_format.h"
 #include "platform/headless_platform.h"
+#include "support/harness.h"
 #include "windows/app.h"
 #include "windows/frm_about.h"
 #include "windows/frm_splash.h"
@@ -25,16 +20,8 @@ struct InformedPlatform : HeadlessPlatform {
   int starts = 0;
 };
 
-struct HelpWindowsTest : testing::Test {
-  static fs::path NewFolder() {
-    std::string name = (fs::temp_directory_path() / "pelorium-help-XXXXXX").string();
-    return mkdtemp(name.data());
-  }
-  ~HelpWindowsTest() override { fs::remove_all(folder); }
-
-  void Write(const fs::path& path, const std::string& bytes) {
-    WriteFile(path, [&](TextWriter& writer) { writer.Text(bytes); });
-  }
+class HelpWindows : public FolderTest {
+ protected:
   std::string HelpText() const { return AsText(app.helpme.RichTextBox1.Value()); }
   TextFormat FirstLook() const { return app.helpme.RichTextBox1.text().Paragraphs()[0].runs.at(0).format; }
   void SetHelpText(const std::string& text, int start, int length) {
@@ -42,12 +29,11 @@ struct HelpWindowsTest : testing::Test {
     app.helpme.RichTextBox1.SetSelection(start, length);
   }
 
-  fs::path folder = NewFolder();
   HeadlessPlatform platform;
-  App app{platform, folder};
+  App app{platform, folder()};
 };
 
-TEST_F(HelpWindowsTest, AClickOnTheSplashStartsOnce) {
+TEST_F(HelpWindows, AClickOnTheSplashStartsOnce) {
   app.frmSplash.Show();
   app.frmSplash.Label2.Press({});
   EXPECT_FALSE(app.frmSplash.visible());
@@ -58,22 +44,22 @@ TEST_F(HelpWindowsTest, AClickOnTheSplashStartsOnce) {
   EXPECT_EQ(app.model.Points(0, 5).X, 77);
 }
 
-TEST_F(HelpWindowsTest, AKeyOrAClickOnThePictureStartsToo) {
+TEST_F(HelpWindows, AKeyOrAClickOnThePictureStartsToo) {
   app.frmSplash.Picture1.Key(' ');
   EXPECT_TRUE(app.started);
-  App other(platform, folder);
+  App other(platform, folder());
   other.frmSplash.Picture1.Press({});
   EXPECT_TRUE(other.started);
 }
 
-TEST_F(HelpWindowsTest, TheSplashDoesNotStartWhatRuns) {
+TEST_F(HelpWindows, TheSplashDoesNotStartWhatRuns) {
   app.Start();
   app.model.Points(0, 5).X = 77;
   app.frmSplash.Label1.Press({});
   EXPECT_EQ(app.model.Points(0, 5).X, 77);
 }
 
-TEST_F(HelpWindowsTest, TheSplashShowsAPicture) {
+TEST_F(HelpWindows, TheSplashShowsAPicture) {
   const Picture& picture = app.frmSplash.Picture1.picture;
   EXPECT_EQ(picture.PixelWidth(), 480);
   EXPECT_EQ(picture.PixelHeight(), 260);
@@ -89,7 +75,7 @@ TEST_F(HelpWindowsTest, TheSplashShowsAPicture) {
   EXPECT_GT(reddish, 20);
 }
 
-TEST_F(HelpWindowsTest, AboutSaysWhenThereIsNoSystemInformation) {
+TEST_F(HelpWindows, AboutSaysWhenThereIsNoSystemInformation) {
   app.frmAbout.Show();
   app.frmAbout.cmdSysInfo.Press();
   EXPECT_EQ(platform.TakeMessages(),
@@ -99,29 +85,29 @@ TEST_F(HelpWindowsTest, AboutSaysWhenThereIsNoSystemInformation) {
   EXPECT_EQ(app.frmAbout.caption(), "About Pelorium");
 }
 
-TEST_F(HelpWindowsTest, AboutStartsTheSystemInformation) {
+TEST_F(HelpWindows, AboutStartsTheSystemInformation) {
   InformedPlatform informed;
-  App other(informed, folder);
+  App other(informed, folder());
   other.frmAbout.cmdSysInfo.Press();
   EXPECT_EQ(informed.starts, 1);
   EXPECT_TRUE(informed.TakeMessages().empty());
 }
 
-TEST_F(HelpWindowsTest, HelpIsLoadedFromTheProgramsFolder) {
-  Write(folder / "help.rtf", "{\\rtf1\\b Help\\b0\\par text}");
+TEST_F(HelpWindows, HelpIsLoadedFromTheProgramsFolder) {
+  WriteBytes(folder() / "help.rtf", "{\\rtf1\\b Help\\b0\\par text}");
   app.helpme.LoadHelp();
   EXPECT_EQ(HelpText(), "Help\ntext");
   EXPECT_TRUE(FirstLook().bold);
 }
 
-TEST_F(HelpWindowsTest, MissingHelpIsAFaultThatDoesNotStopTheStart) {
-  EXPECT_THROW(app.helpme.LoadHelp(), Fault);
+TEST_F(HelpWindows, MissingHelpIsAFaultThatDoesNotStopTheStart) {
+  EXPECT_TRUE(Raises(FaultKind::FileError, [&] { app.helpme.LoadHelp(); }));
   app.Start();
   EXPECT_TRUE(app.started);
   EXPECT_EQ(HelpText(), "");
 }
 
-TEST_F(HelpWindowsTest, PasteReplacesTheSelection) {
+TEST_F(HelpWindows, PasteReplacesTheSelection) {
   SetHelpText("one two three", 4, 3);
   app.helpme.Command1.Press();  // an empty clipboard takes nothing away
   EXPECT_EQ(HelpText(), "one two three");
@@ -131,7 +117,7 @@ TEST_F(HelpWindowsTest, PasteReplacesTheSelection) {
   EXPECT_EQ(app.helpme.RichTextBox1.selectionStart(), 7);
 }
 
-TEST_F(HelpWindowsTest, CopyTakesTheSelection) {
+TEST_F(HelpWindows, CopyTakesTheSelection) {
   platform.SetClipboardText("before");
   SetHelpText("one two three", 4, 0);
   app.helpme.Command2.Press();
@@ -141,7 +127,7 @@ TEST_F(HelpWindowsTest, CopyTakesTheSelection) {
   EXPECT_EQ(platform.ClipboardText(), "two");
 }
 
-TEST_F(HelpWindowsTest, PrintTakesTheSelectionOrAll) {
+TEST_F(HelpWindows, PrintTakesTheSelectionOrAll) {
   SetHelpText("one two three", 4, 3);
   app.helpme.Command3.Press();
   EXPECT_EQ(platform.printed(), "two");
@@ -150,7 +136,7 @@ TEST_F(HelpWindowsTest, PrintTakesTheSelectionOrAll) {
   EXPECT_EQ(platform.printed(), "one two three");
 }
 
-TEST_F(HelpWindowsTest, LooksGoOnTheSelection) {
+TEST_F(HelpWindows, LooksGoOnTheSelection) {
   SetHelpText("one two", 0, 3);
   app.helpme.HScroll1.Drag(30);
   app.helpme.HScroll2.Drag(200);
@@ -168,7 +154,7 @@ TEST_F(HelpWindowsTest, LooksGoOnTheSelection) {
   EXPECT_FALSE(FirstLook().bold);
 }
 
-TEST_F(HelpWindowsTest, BarsAndBoxesGoTogether) {
+TEST_F(HelpWindows, BarsAndBoxesGoTogether) {
   app.helpme.Text1.Type("100");
   EXPECT_EQ(app.helpme.HScroll1.value(), 72);
   EXPECT_EQ(app.helpme.Text1.text(), "72");
@@ -176,11 +162,11 @@ TEST_F(HelpWindowsTest, BarsAndBoxesGoTogether) {
   EXPECT_EQ(app.helpme.Picture1.picture.PixelAt(3, 3), static_cast<int>(Rgb(0, 17, 0)));
 }
 
-TEST_F(HelpWindowsTest, SaveAndOpenKeepTheLooks) {
-  fs::create_directory(folder / "notes");
+TEST_F(HelpWindows, SaveAndOpenKeepTheLooks) {
+  fs::create_directory(folder() / "notes");
   SetHelpText("one two", 0, 3);
   app.helpme.Command6.Press();
-  const fs::path named = folder / "notes" / "a";
+  const fs::path named = folder() / "notes" / "a";
   platform.QueueAnswer(named.string());
   app.helpme.Command11.Press();
   EXPECT_TRUE(fs::exists(named.string() + ".rtf"));
@@ -194,36 +180,36 @@ TEST_F(HelpWindowsTest, SaveAndOpenKeepTheLooks) {
   const auto dialogs = platform.TakeDialogs();
   ASSERT_EQ(dialogs.size(), 2u);
   EXPECT_TRUE(dialogs[0].save);
-  EXPECT_EQ(dialogs[0].folder, folder / "notes");
+  EXPECT_EQ(dialogs[0].folder, folder() / "notes");
   EXPECT_EQ(dialogs[0].filter, "All Files (*.txt;*.rtf;*.obj)|*.txt*;*.rtf;*.obj");
   EXPECT_FALSE(dialogs[1].save);
-  EXPECT_EQ(dialogs[1].folder, folder / "notes");
+  EXPECT_EQ(dialogs[1].folder, folder() / "notes");
   EXPECT_EQ(dialogs[1].filter, "All Files (*.txt;*rtf;*.obj)|*.txt*;*rtf;*.obj");
 }
 
-TEST_F(HelpWindowsTest, OtherEndingsAreSavedAsPlainText) {
+TEST_F(HelpWindows, OtherEndingsAreSavedAsPlainText) {
   SetHelpText("one\ntwo", 0, 3);
   app.helpme.Command6.Press();
-  platform.QueueAnswer((folder / "a.txt").string());
+  platform.QueueAnswer((folder() / "a.txt").string());
   app.helpme.Command11.Press();
-  EXPECT_EQ(ReadFile(folder / "a.txt"), "one\r\ntwo");
+  EXPECT_EQ(BytesOf(folder() / "a.txt"), "one\r\ntwo");
 }
 
-TEST_F(HelpWindowsTest, ACancelChangesNothing) {
+TEST_F(HelpWindows, ACancelChangesNothing) {
   SetHelpText("one", 0, 0);
   app.helpme.Command10.Press();
   app.helpme.Command11.Press();
   EXPECT_EQ(HelpText(), "one");
-  EXPECT_TRUE(fs::is_empty(folder));
+  EXPECT_TRUE(fs::is_empty(folder()));
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
-TEST_F(HelpWindowsTest, AFailedFileIsNotedAndCostsNothing) {
+TEST_F(HelpWindows, AFailedFileIsNotedAndCostsNothing) {
   SetHelpText("one", 0, 0);
-  platform.QueueAnswer((folder / "missing.rtf").string());
+  platform.QueueAnswer((folder() / "missing.rtf").string());
   app.helpme.Command10.Press();
   EXPECT_EQ(HelpText(), "one");
-  platform.QueueAnswer((folder / "missing" / "a.rtf").string());
+  platform.QueueAnswer((folder() / "missing" / "a.rtf").string());
   app.helpme.Command11.Press();
   const auto faults = app.faults.TakeAll();
   ASSERT_EQ(faults.size(), 2u);
