@@ -22,8 +22,8 @@ struct UserEvent {
   std::string window, control;
   UserAction action = UserAction::Press;
   double value = 0;
-  std::string text;
-  Click click;
+  std::string text = {};
+  Click click = {};
   float x = 0, y = 0;
   int width = 0, height = 0;
 };

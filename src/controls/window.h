@@ -43,6 +43,8 @@ class Window {
   void SetCaption(std::string caption);
   void Show();
   void Hide();
+  // A person closes the window.
+  virtual void Close() { Hide(); }
   // In twips of the frame, 15 to a pixel.
   void MoveTo(double left, double top);
 

@@ -20,24 +20,15 @@ struct PaletteEntry {
 };
 
 constexpr PaletteEntry kPalette[] = {
-    {QPalette::Window, 0xFFE2E4E7, 0xFFE2E4E7},
-    {QPalette::WindowText, 0xFF16181A, 0xFF7C8085},
-    {QPalette::Base, 0xFFFDFDFD, 0xFFEEEFF1},
-    {QPalette::AlternateBase, 0xFFF1F3F5, 0xFFEEEFF1},
-    {QPalette::Text, 0xFF101214, 0xFF7C8085},
-    {QPalette::PlaceholderText, 0xFF6F7378, 0xFF7C8085},
-    {QPalette::Button, 0xFFEBEDEF, 0xFFE2E4E7},
-    {QPalette::ButtonText, 0xFF16181A, 0xFF7C8085},
-    {QPalette::BrightText, 0xFFFFFFFF, 0xFFFFFFFF},
-    {QPalette::Light, 0xFFFFFFFF, 0xFFFFFFFF},
-    {QPalette::Midlight, 0xFFF0F1F3, 0xFFF0F1F3},
-    {QPalette::Mid, 0xFFB4B8BD, 0xFFB4B8BD},
-    {QPalette::Dark, 0xFF8E9399, 0xFF8E9399},
-    {QPalette::Shadow, 0xFF5A5E63, 0xFF5A5E63},
-    {QPalette::Highlight, 0xFF2A6FB0, 0xFF9DA5AD},
-    {QPalette::HighlightedText, 0xFFFFFFFF, 0xFFFFFFFF},
-    {QPalette::Link, 0xFF1B5E9E, 0xFF7C8085},
-    {QPalette::ToolTipBase, 0xFFFFFBE6, 0xFFFFFBE6},
+    {QPalette::Window, 0xFFE2E4E7, 0xFFE2E4E7},      {QPalette::WindowText, 0xFF16181A, 0xFF7C8085},
+    {QPalette::Base, 0xFFFDFDFD, 0xFFEEEFF1},        {QPalette::AlternateBase, 0xFFF1F3F5, 0xFFEEEFF1},
+    {QPalette::Text, 0xFF101214, 0xFF7C8085},        {QPalette::PlaceholderText, 0xFF6F7378, 0xFF7C8085},
+    {QPalette::Button, 0xFFEBEDEF, 0xFFE2E4E7},      {QPalette::ButtonText, 0xFF16181A, 0xFF7C8085},
+    {QPalette::BrightText, 0xFFFFFFFF, 0xFFFFFFFF},  {QPalette::Light, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::Midlight, 0xFFF0F1F3, 0xFFF0F1F3},    {QPalette::Mid, 0xFFB4B8BD, 0xFFB4B8BD},
+    {QPalette::Dark, 0xFF8E9399, 0xFF8E9399},        {QPalette::Shadow, 0xFF5A5E63, 0xFF5A5E63},
+    {QPalette::Highlight, 0xFF2A6FB0, 0xFF9DA5AD},   {QPalette::HighlightedText, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::Link, 0xFF1B5E9E, 0xFF7C8085},        {QPalette::ToolTipBase, 0xFFFFFBE6, 0xFFFFFBE6},
     {QPalette::ToolTipText, 0xFF16181A, 0xFF16181A},
 };
 

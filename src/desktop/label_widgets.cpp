@@ -1,12 +1,16 @@
 // Labels, titled boxes and progress bars on the screen.
 #include "desktop/label_widgets.h"
 
+#include <algorithm>
+
 #include "desktop/dispatcher.h"
 #include "desktop/qt_text.h"
 
 namespace pelorium {
 
 namespace {
+
+constexpr int kWidestKeptRoom = 300;  // pixels
 
 // A hand over what can be clicked on though it does not look like a button.
 void ShowWhetherClickable(QWidget& widget, const Control& control) {
@@ -29,8 +33,19 @@ LabelWidget::LabelWidget(Control& label, Dispatcher& dispatcher, QWidget* parent
 
 void LabelWidget::Sync() {
   const QString caption = CaptionToShow(label_.caption());
-  if (text() != caption) setText(caption);
+  if (text() != caption) {
+    setText(caption);
+    KeepRoom();
+  }
   SyncCommon(*this, label_);
+}
+
+// A label that shows changing values keeps the room it once took, and has some from the start: else the
+// window would be laid out anew, and its picture resized, at every move of the mouse.
+void LabelWidget::KeepRoom() {
+  const bool showsNumber = !text().isEmpty() && text().back().isDigit();
+  const int wanted = fontMetrics().horizontalAdvance(showsNumber ? text() + "000" : text());
+  if (wanted <= kWidestKeptRoom) setMinimumWidth(std::max(minimumWidth(), wanted + 2 * margin()));
 }
 
 GroupWidget::GroupWidget(Control& frame, Dispatcher& dispatcher, QWidget* parent)

@@ -19,6 +19,8 @@ class LabelWidget : public QLabel, public ControlView {
   void Sync() override;
 
  private:
+  void KeepRoom();
+
   Control& label_;
 };
 

@@ -14,8 +14,9 @@ namespace pelorium {
 namespace {
 
 constexpr int kGap = 6;                // pixels between widgets
-constexpr int kComfortableFlow = 400;  // pixels: a few buttons a row
+constexpr int kComfortableFlow = 360;  // pixels: a few buttons a row
 constexpr int kWidestLabel = 190;      // pixels: longer texts before a bar wrap
+constexpr int kRowHeight = 22;         // pixels: rows with a box and rows without look alike
 constexpr int kLabelColumn = 0, kBarColumn = 1, kFirstBoxColumn = 2;
 
 bool IsAligned(const LayoutItem& item) {
@@ -29,6 +30,14 @@ bool IsSingle(const LayoutItem& item, ControlKind kind) {
 bool HoldsPicture(const LayoutItem& item) {
   return IsSingle(item, ControlKind::PictureBox) ||
          (item.kind != LayoutKind::Frame && std::any_of(item.items.begin(), item.items.end(), HoldsPicture));
+}
+
+// A control that keeps its size however wide its window is.
+bool IsSmall(const LayoutItem& item) {
+  if (item.kind != LayoutKind::Single || item.stretches) return false;
+  const ControlKind kind = item.controls.at(0)->kind();
+  return kind == ControlKind::Label || kind == ControlKind::TextBox || kind == ControlKind::PushButton ||
+         kind == ControlKind::CheckBox || kind == ControlKind::OptionButton;
 }
 
 // Upright bars stand beside the picture that they move.
@@ -58,6 +67,15 @@ template <typename LayoutType>
 LayoutType* WithoutMargins(LayoutType* layout) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(kGap);
+  return layout;
+}
+
+FlowLayout* MakeFlowLayout(QWidget* holder) {
+  auto* layout = new FlowLayout(holder, kComfortableFlow);
+  layout->setSpacing(kGap);
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+  policy.setHeightForWidth(true);
+  holder->setSizePolicy(policy);
   return layout;
 }
 
@@ -107,6 +125,7 @@ QWidget* LayoutBuilder::MakeColumn(const std::vector<LayoutItem>& items, QWidget
     } else {
       grid->addWidget(Make(item, column), row, 0, 1, columns);
     }
+    if (IsAligned(item)) grid->setRowMinimumHeight(row, kRowHeight);
     grid->setRowStretch(row++, item.stretches ? 1 : 0);
   }
   if (!AnyStretches(items)) grid->setRowStretch(row, 1);
@@ -138,6 +157,12 @@ QWidget* LayoutBuilder::MakeStandAlone(const LayoutItem& item, QWidget* parent) 
 
 QWidget* LayoutBuilder::MakeRow(const LayoutItem& item, QWidget* parent) {
   auto* row = new QWidget(parent);
+  if (std::all_of(item.items.begin(), item.items.end(), IsSmall)) {
+    FlowLayout* flow = MakeFlowLayout(row);
+    flow->setSpacing(2 * kGap);
+    for (const LayoutItem& part : item.items) flow->addWidget(Make(part, row));
+    return row;
+  }
   auto* layout = WithoutMargins(new QHBoxLayout(row));
   for (const LayoutItem& part : item.items) {
     QWidget* made =
@@ -156,12 +181,8 @@ QWidget* LayoutBuilder::MakeFrame(const LayoutItem& item, QWidget* parent) {
 
 QWidget* LayoutBuilder::MakeFlow(const std::vector<Control*>& controls, QWidget* parent) {
   auto* holder = new QWidget(parent);
-  auto* layout = new FlowLayout(holder, kComfortableFlow);
-  layout->setSpacing(kGap);
+  FlowLayout* layout = MakeFlowLayout(holder);
   for (Control* control : controls) layout->addWidget(MakeControl(*control, holder));
-  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
-  policy.setHeightForWidth(true);
-  holder->setSizePolicy(policy);
   return holder;
 }
 

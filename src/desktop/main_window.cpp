@@ -135,9 +135,8 @@ void MainWindow::FillArea() {
   if (MayBePlaced(options_, optionsGiven_)) {
     QMdiSubWindow& sub = *options_->subWindow();
     const QSize frameAround = sub.sizeHint() - sub.widget()->sizeHint();
-    const QSize widest(room.width() / 3, room.height());
-    const int width = (options_->ComfortableSize(widest - frameAround) + frameAround).width();
-    sub.setGeometry(0, 0, width, room.height());
+    const int comfortable = (options_->ComfortableSize(room.size() - frameAround) + frameAround).width();
+    sub.setGeometry(0, 0, std::min(comfortable, room.width() * 45 / 100), room.height());
     optionsGiven_ = sub.geometry();
   }
   if (options_ != nullptr) left = std::min(optionsGiven_.right() + 1, room.width() / 2);

@@ -75,7 +75,18 @@ void PictureWidget::ShowPresent() {
   repaint();
 }
 
-QSize PictureWidget::sizeHint() const { return {box_.picture.PixelWidth(), box_.picture.PixelHeight()}; }
+// A picture that follows its window asks for its own size once; from then on it takes what it gets, so that
+// the window can be made smaller again.
+QSize PictureWidget::sizeHint() const {
+  if (box_.followsWindow && wasShown_) return kLeastFollowingSize;
+  return {box_.picture.PixelWidth(), box_.picture.PixelHeight()};
+}
+
+void PictureWidget::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  wasShown_ = true;
+  updateGeometry();
+}
 
 void PictureWidget::paintEvent(QPaintEvent*) {
   const Picture& picture = box_.picture;
@@ -110,7 +121,7 @@ UserEvent PictureWidget::MouseEventAt(UserAction action, QPoint pixel, const Cli
 void PictureWidget::mousePressEvent(QMouseEvent* event) {
   if (!IsTold(*event)) return;
   place_ = PixelOf(*event);
-  if (box_.onMouseDown) dispatcher_.Deliver(MouseEventAt(UserAction::MouseDown, place_, ClickOf(*event)));
+  if (ListensToMouse()) dispatcher_.Deliver(MouseEventAt(UserAction::MouseDown, place_, ClickOf(*event)));
 }
 
 // The second press of a quick pair is a press like any other.
@@ -130,12 +141,15 @@ void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
   QTimer::singleShot(0, this, [this] { dispatcher_.DeliverPending(pendingMove_); });
 }
 
+// A press and its letting go are told together, whichever of them the program acts on.
+bool PictureWidget::ListensToMouse() const { return box_.onMouseDown || box_.onMouseMove || box_.onMouseUp; }
+
 UserEvent PictureWidget::TakeMove() { return MouseEventAt(UserAction::MouseMove, place_, moveClick_); }
 
 void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (!IsTold(*event)) return;
   place_ = PixelOf(*event);
-  if (box_.onMouseUp) dispatcher_.Deliver(MouseEventAt(UserAction::MouseUp, place_, ClickOf(*event)));
+  if (ListensToMouse()) dispatcher_.Deliver(MouseEventAt(UserAction::MouseUp, place_, ClickOf(*event)));
   if (box_.onClick && rect().contains(place_)) dispatcher_.Press(box_, ClickOf(*event));
 }
 

@@ -29,6 +29,7 @@ class PictureWidget : public QWidget, public ControlView {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   // The newest place of the mouse that was not delivered yet.
@@ -50,6 +51,7 @@ class PictureWidget : public QWidget, public ControlView {
   };
 
   UserEvent MouseEventAt(UserAction action, QPoint pixel, const Click& click) const;
+  bool ListensToMouse() const;
   UserEvent TakeMove();
   UserEvent TakeResize();
   void DrawOverlay(QPainter& painter) const;
@@ -61,6 +63,7 @@ class PictureWidget : public QWidget, public ControlView {
   PendingResize pendingResize_{*this};
   QPoint place_{-1, -1};  // of the mouse, when last told
   Click moveClick_;
+  bool wasShown_ = false;
   std::uint64_t shownRevision_ = 0;
   std::vector<OverlayLine> shownOverlay_;
 };

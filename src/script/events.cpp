@@ -139,7 +139,7 @@ bool Applies(UserAction action, const Control& control) {
     case UserAction::Drag:
       return control.kind() == ControlKind::ScrollBar || IsList(control);
     case UserAction::Type:
-      return control.kind() == ControlKind::TextBox;
+      return control.kind() == ControlKind::TextBox || control.kind() == ControlKind::RichTextBox;
     case UserAction::DoubleClick:
       return CanBeDoubleClicked(control);
     case UserAction::Key:

@@ -3,9 +3,11 @@
 
 #include <utility>
 
+#include "base/numbers.h"
 #include "controls/buttons.h"
 #include "controls/lists.h"
 #include "controls/picture_box.h"
+#include "controls/rich_text_box.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "windows/edit_by_face.h"
@@ -34,7 +36,7 @@ bool On(Control& control, Act act) {
 
 bool Drag(Control& control, double value) {
   return On<ScrollBar>(control, [&](ScrollBar& bar) { bar.Drag(value); }) ||
-         On<ListBox>(control, [&](ListBox& list) { list.Pick(static_cast<int>(value)); });
+         On<ListBox>(control, [&](ListBox& list) { list.Pick(ToInteger<int>(value)); });
 }
 
 bool Mouse(Control& control, const UserEvent& event) {
@@ -108,13 +110,13 @@ bool App::Deliver(const UserEvent& event) {
   if (window == nullptr) return false;
   if (event.action == UserAction::CloseWindow) {
     if (onEvent) onEvent(event);
-    window->Hide();
+    Trapped(faults, window->name(), [window] { window->Close(); });
     return true;
   }
   Control* control = window->Find(event.control);
   if (control == nullptr || !control->enabled()) return false;
   if (onEvent) onEvent(event);
-  bool applied = false;
+  bool applied = true;  // also when a fault ended the handler
   Trapped(faults, control->FullName(), [&] { applied = DeliverTo(*control, event); });
   return applied;
 }

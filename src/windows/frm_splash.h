@@ -13,6 +13,9 @@ class FrmSplash : public Window {
  public:
   explicit FrmSplash(App& app);
 
+  // Closing it begins too: there is no other way on.
+  void Close() override { Form_Click(); }
+
   PictureBox Picture1{*this, "Picture1", 480, 260, "click to begin"};
   Label Label1{*this, "Label1", "Create 3d models (ver 2.14)"};
   Label Label2{*this, "Label2", "Click to begin"};

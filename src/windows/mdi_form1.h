@@ -20,6 +20,7 @@ class MDIForm1 : public Window {
 
   // Unloads every window and ends the program. No question is asked and nothing is saved.
   void Exit();
+  void Close() override { Exit(); }
 
   // The menu bar and all that hangs under it, from the command table.
   const std::vector<std::unique_ptr<MenuItem>>& menu() const { return menu_; }

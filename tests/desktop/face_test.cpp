@@ -1,0 +1,286 @@
+// What a person does with mouse and keyboard reaches the program, and what the program draws reaches the
+// screen.
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QStyleOptionSlider>
+#include <QTest>
+#include <QTimer>
+
+#include "controls/picture_box.h"
+#include "controls/scroll_bar.h"
+#include "controls/text_box.h"
+#include "desktop/face_fixture.h"
+
+namespace pelorium {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+QAction* MenuAction(QWidget& frame, const char* name) { return frame.findChild<QAction*>(name); }
+
+// How many pixels of the screen differ from the program's picture.
+int DifferingPixels(const QImage& screen, const Picture& picture) {
+  int differing = 0;
+  for (int y = 0; y < screen.height(); ++y) {
+    for (int x = 0; x < screen.width(); ++x) {
+      const QRgb seen = screen.pixel(x, y);
+      const auto wanted = static_cast<Colour>(picture.PixelAt(x, y));
+      if (Rgb(qRed(seen), qGreen(seen), qBlue(seen)) != wanted) ++differing;
+    }
+  }
+  return differing;
+}
+
+QRect ThumbOf(const QScrollBar& bar) {
+  QStyleOptionSlider option;
+  option.initFrom(&bar);
+  option.subControls = QStyle::SC_All;
+  option.orientation = bar.orientation();
+  option.minimum = bar.minimum();
+  option.maximum = bar.maximum();
+  option.sliderPosition = bar.sliderPosition();
+  option.sliderValue = bar.value();
+  option.singleStep = bar.singleStep();
+  option.pageStep = bar.pageStep();
+  option.state |= QStyle::State_Horizontal;
+  return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar);
+}
+
+TEST_F(FaceTest, AClickOnTheSplashBringsTheFrame) {
+  EXPECT_FALSE(session_->face().frame().isVisible());
+  QTest::mouseClick(&Shown<QWidget>("frmSplash.Picture1"), Qt::LeftButton);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&session_->face().frame()));
+  Settle();
+  EXPECT_FALSE(IsShown("frmSplash"));
+  EXPECT_TRUE(IsShown("Form51"));
+  EXPECT_TRUE(IsShown("Form36"));
+  EXPECT_EQ(session_->face().frame().windowTitle().section(" - ", 0, 0).toStdString(), "Pelorium v2.14");
+  const QWidget& picture = Shown<QWidget>("Form36.Picture1");
+  EXPECT_EQ(JournalLines(),
+            (Lines{"press frmSplash.Picture1", "resize Form36.Picture1 " + std::to_string(picture.width()) +
+                                                   " " + std::to_string(picture.height())}));
+}
+
+TEST_F(FaceTest, AKeyOnTheSplashGoesOnToo) {
+  QTest::keyClick(&Shown<QWidget>("frmSplash"), Qt::Key_Space);
+  Settle();
+  EXPECT_TRUE(session_->face().frame().isVisible());
+  EXPECT_TRUE(app().started);
+}
+
+TEST_F(FaceTest, TheViewFillsTheFrameAndFollowsIt) {
+  PassSplash();
+  QMainWindow& frame = session_->face().frame();
+  auto& view = Shown<QMdiSubWindow>("Form36");
+  auto& box = Controlled<PictureBox>("Form36", "Picture1");
+  const int widthBefore = box.picture.PixelWidth();
+  EXPECT_EQ(view.geometry().left(), Shown<QMdiSubWindow>("Form51").geometry().right() + 1);
+  EXPECT_EQ(view.geometry().right() + 1, frame.centralWidget()->width());
+  frame.resize(frame.width() - 100, frame.height());
+  Settle();
+  EXPECT_EQ(box.picture.PixelWidth(), widthBefore - 100);
+  EXPECT_EQ(Shown<QWidget>("Form36.Picture1").width(), widthBefore - 100);
+
+  // Once a person has placed it, it stays.
+  view.setGeometry(300, 20, 500, 500);
+  frame.resize(frame.width() + 50, frame.height());
+  Settle();
+  EXPECT_EQ(view.geometry(), QRect(300, 20, 500, 500));
+}
+
+TEST_F(FaceTest, TheScreenShowsThePixelsOfThePicture) {
+  PassSplash();
+  auto& box = Controlled<PictureBox>("Form36", "Picture1");
+  const auto& widget = Shown<QWidget>("Form36.Picture1");
+  EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture), 0);
+  EXPECT_EQ(box.picture.PixelAt(3, 3), static_cast<int>(Rgb(64, 64, 64)));
+
+  box.picture.Clear();
+  box.picture.Line(0, -50, 90, -50, Rgb(250, 20, 10));
+  box.NotifyChanged();
+  const QImage screen = OnScreen(widget);
+  EXPECT_EQ(screen.pixel(40, 50), qRgb(250, 20, 10));
+  EXPECT_EQ(screen.pixel(40, 51), qRgb(64, 64, 64));
+}
+
+TEST_F(FaceTest, ProfilePointsAreDrawnWithTheMouse) {
+  PassSplash();
+  auto& widget = Shown<QWidget>("Form36.Picture1");
+  for (const QPoint place : {QPoint(400, 100), QPoint(500, 200), QPoint(450, 400)}) {
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, place);
+  }
+  EXPECT_EQ(app().model.Profile(0).count, 3);
+  EXPECT_EQ(NewJournalLines(),
+            (Lines{"mouse Form36.Picture1 down 400 -100 left", "mouse Form36.Picture1 up 400 -100 left",
+                   "mouse Form36.Picture1 down 500 -200 left", "mouse Form36.Picture1 up 500 -200 left",
+                   "mouse Form36.Picture1 down 450 -400 left", "mouse Form36.Picture1 up 450 -400 left"}));
+  const QImage screen = OnScreen(widget);
+  EXPECT_EQ(DifferingPixels(screen, Controlled<PictureBox>("Form36", "Picture1").picture), 0);
+  EXPECT_GT(qGray(screen.pixel(450, 150)), 150) << "the line between the first two points";
+}
+
+TEST_F(FaceTest, ButtonsAndKeysOfTheMouseAreTold) {
+  PassSplash();
+  auto& widget = Shown<QWidget>("Form36.Picture1");
+  QTest::mousePress(&widget, Qt::RightButton, Qt::ShiftModifier | Qt::ControlModifier, QPoint(10, 20));
+  QTest::mouseRelease(&widget, Qt::RightButton, Qt::NoModifier, QPoint(10, 20));
+  EXPECT_EQ(NewJournalLines(), (Lines{"mouse Form36.Picture1 down 10 -20 right shift ctrl",
+                                      "mouse Form36.Picture1 up 10 -20 right"}));
+}
+
+TEST_F(FaceTest, OnlyTheNewestMoveIsDelivered) {
+  PassSplash();
+  auto& widget = Shown<QWidget>("Form36.Picture1");
+  for (int x = 100; x <= 140; x += 10) {
+    const QPointF place(x, 60);
+    QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &move);
+  }
+  Settle();
+  EXPECT_EQ(NewJournalLines(), (Lines{"mouse Form36.Picture1 move 140 -60 left"}));
+}
+
+TEST_F(FaceTest, ABarIsDraggedByItsThumb) {
+  PassSplash();
+  auto& widget = Shown<QScrollBar>("Form51.HScroll8");
+  auto& bar = Controlled<ScrollBar>("Form51", "HScroll8");
+  const int before = bar.value();
+  const QPoint thumb = ThumbOf(widget).center();
+  QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, thumb);
+  QTest::mouseMove(&widget, thumb + QPoint(20, 0));
+  QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, thumb + QPoint(20, 0));
+  Settle();
+  EXPECT_GT(bar.value(), before);
+  EXPECT_EQ(widget.value(), bar.value());
+  EXPECT_EQ(NewJournalLines().back(), "drag Form51.HScroll8 " + std::to_string(bar.value()));
+  EXPECT_EQ(Shown<QLineEdit>("Form51.Text6").text().toInt(), bar.value());
+  EXPECT_EQ(DifferingPixels(OnScreen(Shown<QWidget>("Form36.Picture1")),
+                            Controlled<PictureBox>("Form36", "Picture1").picture),
+            0);
+}
+
+TEST_F(FaceTest, ABarListensToTheKeyboardAndTheWheel) {
+  PassSplash();
+  auto& widget = Shown<QScrollBar>("Form51.HScroll8");
+  auto& bar = Controlled<ScrollBar>("Form51", "HScroll8");
+  const int before = bar.value();
+  widget.setFocus();
+  QTest::keyClick(&widget, Qt::Key_Right);
+  Settle();
+  EXPECT_EQ(bar.value(), before + bar.smallChange);
+  QTest::keyClick(&widget, Qt::Key_PageUp);
+  Settle();
+  EXPECT_EQ(bar.value(), before + bar.smallChange + bar.largeChange);
+}
+
+TEST_F(FaceTest, TypedTextIsDeliveredOnceAtEnterAndAfterAPause) {
+  PassSplash();
+  auto& widget = Shown<QLineEdit>("Form51.Text6");
+  widget.setFocus();
+  widget.selectAll();
+  QTest::keyClicks(&widget, "75");
+  EXPECT_EQ(Controlled<TextBox>("Form51", "Text6").text(), "50") << "typing has not paused yet";
+  QTest::keyClick(&widget, Qt::Key_Return);
+  EXPECT_EQ(Controlled<TextBox>("Form51", "Text6").text(), "75");
+  EXPECT_EQ(Controlled<ScrollBar>("Form51", "HScroll8").value(), 75);
+  EXPECT_EQ(Shown<QScrollBar>("Form51.HScroll8").value(), 75);
+  QTest::keyClick(&widget, Qt::Key_Backspace);
+  QTest::qWait(500);
+  EXPECT_EQ(NewJournalLines(), (Lines{"type Form51.Text6 75", "type Form51.Text6 7"}));
+}
+
+TEST_F(FaceTest, TextThatWaitsIsDeliveredBeforeTheNextEvent) {
+  PassSplash();
+  auto& widget = Shown<QLineEdit>("Form51.Text6");
+  widget.setFocus();
+  widget.selectAll();
+  QTest::keyClicks(&widget, "60");
+  QTest::mouseClick(&Shown<QPushButton>("Form51.Command1"), Qt::LeftButton);
+  EXPECT_EQ(NewJournalLines(), (Lines{"type Form51.Text6 60", "press Form51.Command1"}));
+}
+
+TEST_F(FaceTest, TheRightButtonPressesAButtonToo) {
+  PassSplash();
+  const auto& picture = Controlled<PictureBox>("Form36", "Picture1").picture;
+  const double before = picture.ScaleWidth();
+  auto& zoom = Shown<QPushButton>("Form36.Command12");
+  QTest::mouseClick(&zoom, Qt::RightButton);
+  EXPECT_DOUBLE_EQ(picture.ScaleWidth(), before * 1.25);
+  QTest::mouseClick(&zoom, Qt::LeftButton, Qt::ShiftModifier);
+  EXPECT_EQ(NewJournalLines(), (Lines{"press Form36.Command12 right", "press Form36.Command12 shift"}));
+}
+
+TEST_F(FaceTest, MarksFollowTheProgram) {
+  PassSplash();
+  auto& profile = Shown<QRadioButton>("Form51.Option1");
+  auto& front = Shown<QRadioButton>("Form51.Option2");
+  ASSERT_TRUE(profile.isChecked());
+  QTest::mouseClick(&front, Qt::LeftButton, Qt::NoModifier, QPoint(8, front.height() / 2));
+  EXPECT_TRUE(front.isChecked());
+  EXPECT_FALSE(profile.isChecked());
+  // A second click changes nothing in the program, so it changes nothing on the screen.
+  QTest::mouseClick(&front, Qt::LeftButton, Qt::NoModifier, QPoint(8, front.height() / 2));
+  EXPECT_TRUE(front.isChecked());
+}
+
+TEST_F(FaceTest, AClosedWindowIsHiddenAndComesBackByTheMenu) {
+  PassSplash();
+  Shown<QMdiSubWindow>("Form51").close();
+  EXPECT_FALSE(IsShown("Form51"));
+  EXPECT_FALSE(app().FindWindow("Form51")->visible());
+  MenuAction(session_->face().frame(), "MDIForm1.viewit")->trigger();
+  EXPECT_TRUE(IsShown("Form51"));
+  EXPECT_EQ(NewJournalLines(), (Lines{"set Form51.visible 0", "press MDIForm1.viewit"}));
+}
+
+TEST_F(FaceTest, EveryWindowOfTheProgramCanBeShown) {
+  PassSplash();
+  for (Window* window : app().windows()) {
+    if (window->name() == "frmSplash" || window->name() == "MDIForm1") continue;
+    window->Show();
+    Settle();
+    EXPECT_TRUE(IsShown(window->name().c_str())) << window->name();
+  }
+}
+
+TEST_F(FaceTest, AnswersOfFileDialogsComeBeforeTheirEvent) {
+  PassSplash();
+  bool sawDialog = false;
+  QTimer::singleShot(300, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    sawDialog = dialog != nullptr;
+    if (dialog != nullptr) dialog->reject();
+  });
+  MenuAction(session_->face().frame(), "MDIForm1.saveproj")->trigger();
+  EXPECT_TRUE(sawDialog);
+  EXPECT_EQ(NewJournalLines(), (Lines{"cancel", "press MDIForm1.saveproj"}));
+
+  const auto target = home_ / "my vase";
+  QTimer::singleShot(300, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    dialog->findChild<QLineEdit*>()->setText(QString::fromStdString(target.string()));
+    QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+  });
+  MenuAction(session_->face().frame(), "MDIForm1.saveproj")->trigger();
+  EXPECT_TRUE(std::filesystem::exists(target.string() + ".prj"));
+  EXPECT_EQ(NewJournalLines(), (Lines{"answer \"" + target.string() + ".prj\"", "press MDIForm1.saveproj"}));
+}
+
+TEST_F(FaceTest, ClosingTheFrameEndsTheProgram) {
+  PassSplash();
+  session_->face().frame().close();
+  EXPECT_TRUE(app().exitRequested);
+  EXPECT_EQ(NewJournalLines(), (Lines{"press MDIForm1.exiter"}));
+}
+
+}  // namespace
+}  // namespace pelorium

@@ -1,0 +1,59 @@
+// A started program without a screen, in a folder of its own.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/headless_platform.h"
+#include "support/harness.h"
+#include "windows/app.h"
+
+namespace pelorium {
+
+class AppTest : public FolderTest {
+ protected:
+  AppTest() : app(platform, folder()) {
+    for (const char* name : {"projects", "objs", "objinfo"})
+      std::filesystem::create_directory(folder() / name);
+    app.Start();
+    app.faults.TakeAll();  // the help text is not there
+  }
+
+  void Mouse(UserAction action, float x, float y, MouseButton button = MouseButton::Left) {
+    UserEvent event;
+    event.window = "Form36";
+    event.control = "Picture1";
+    event.action = action;
+    event.x = x;
+    event.y = y;
+    event.click.button = button;
+    app.Deliver(event);
+  }
+  void ClickAt(float x, float y, MouseButton button = MouseButton::Left) {
+    Mouse(UserAction::MouseDown, x, y, button);
+    Mouse(UserAction::MouseUp, x, y, button);
+  }
+  void PressItem(const std::string& name) {
+    UserEvent event;
+    event.window = "MDIForm1";
+    event.control = name;
+    EXPECT_TRUE(app.Deliver(event)) << name;
+  }
+
+  // A profile of four points at radius 50, 60, 60, 40, revolved.
+  void MakeCup() {
+    ClickAt(368, -398);
+    ClickAt(378, -368);
+    ClickAt(378, -338);
+    ClickAt(358, -318);
+    PressItem("revolve2");
+  }
+
+  HeadlessPlatform platform;
+  App app;
+};
+
+}  // namespace pelorium

@@ -1,0 +1,181 @@
+// Saving, opening and exporting through the windows.
+#include <gtest/gtest.h>
+
+#include "app_fixture.h"
+#include "windows/form14.h"
+#include "windows/form31.h"
+#include "windows/form5.h"
+#include "windows/form51.h"
+#include "windows/revolve_prof.h"
+#include "windows/shared_parameters.h"
+
+namespace pelorium {
+namespace {
+
+class FileWindows : public AppTest {
+ protected:
+  std::filesystem::path Project() const { return folder() / "projects" / "cup \"1\" größe.prj"; }
+
+  void SaveTo(const std::filesystem::path& path) {
+    platform.QueueAnswer(path.string());
+    PressItem("saveproj");
+  }
+  void OpenFrom(const std::filesystem::path& path) {
+    platform.QueueAnswer(path.string());
+    PressItem("openproj");
+  }
+};
+
+TEST_F(FileWindows, SaveOpenSaveGivesTheSameBytesAndTheRangesFollow) {
+  MakeCup();
+  SaveTo(Project());
+  EXPECT_EQ(app.form31.Text1.text(), Project().string());
+  const std::string bytes = BytesOf(Project());
+
+  App other(platform, folder());
+  other.Start();
+  platform.QueueAnswer(Project().string());
+  other.form31.Command15.Press();
+  EXPECT_EQ(PointRangeEnd(other), 186);
+  EXPECT_EQ(FaceRangeEnd(other), 221);
+  EXPECT_EQ(other.form51.Label3.caption(), "221faces  points 186");
+  EXPECT_EQ(other.form51.Label17.caption(), "4");
+  platform.QueueAnswer((folder() / "again.prj").string());
+  other.form31.Command14.Press();
+  EXPECT_EQ(BytesOf(folder() / "again.prj"), bytes);
+}
+
+TEST_F(FileWindows, DialogsAskAsTold) {
+  PressItem("openproj");
+  PressItem("saveproj");
+  PressItem("exportinfo");
+  PressItem("exportobjinfo2");
+  app.form14.Command26.Press();
+  const auto dialogs = platform.TakeDialogs();
+  ASSERT_EQ(dialogs.size(), 5U);
+  EXPECT_EQ(dialogs[0].title, "Open Project (.prj file)");
+  EXPECT_FALSE(dialogs[0].save);
+  EXPECT_EQ(dialogs[1].title, "Save project (.prj file)");
+  EXPECT_EQ(dialogs[1].folder, folder() / "projects");
+  EXPECT_EQ(dialogs[1].filter, "All Files (*.prj)|*.prj");
+  EXPECT_EQ(dialogs[2].title, "Export Obj info --All Part#'s(.txt file)");
+  EXPECT_EQ(dialogs[3].folder, folder() / "objinfo");
+  EXPECT_EQ(dialogs[4].filter, "All Files (*.obj*)|*.obj*");
+  EXPECT_TRUE(app.form31.Text1.text().empty());
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(FileWindows, ANameWithoutAnEndingGetsOne) {
+  SaveTo(folder() / "plain");
+  EXPECT_TRUE(std::filesystem::exists(folder() / "plain.prj"));
+}
+
+TEST_F(FileWindows, AFailedSaveCostsNothing) {
+  SaveTo(Project());
+  const std::string bytes = BytesOf(Project());
+  MakeCup();
+  SaveTo(Project() / "a file is no folder.prj");
+  SaveTo(folder() / "no such folder" / "x.prj");
+  EXPECT_EQ(app.faults.TakeAll().size(), 2U);
+  EXPECT_EQ(BytesOf(Project()), bytes);
+}
+
+TEST_F(FileWindows, ABadProjectEndsQuietlyAndTheNextCommandWorks) {
+  MakeCup();
+  const auto bad = folder() / "bad.prj";
+  for (const char* text : {"", " 5  1  3  1 \r\n0 0 x", " 99999  1 ", "nan"}) {
+    WriteBytes(bad, text);
+    OpenFrom(bad);
+    EXPECT_EQ(app.faults.TakeAll().size(), 1U) << text;
+    EXPECT_TRUE(platform.TakeMessages().empty());
+    PressItem("revolve2");
+    EXPECT_EQ(app.model.Part(0).maxfaces, 221);
+  }
+  OpenFrom(folder() / "missing.prj");
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+}
+
+TEST_F(FileWindows, OpeningRunsNoAutomaticRevolve) {
+  MakeCup();
+  SaveTo(Project());
+  app.model.Profile(0).count = 0;
+  app.revolveprof.Option2.SetValue(true);
+  app.model.Points(0, 1).X = -1;
+  OpenFrom(Project());
+  EXPECT_EQ(app.model.Points(0, 1).X, 50);
+  EXPECT_EQ(app.model.Part(0).maxpoints, 186);
+}
+
+TEST_F(FileWindows, QuickSaveAndGet) {
+  PressItem("restoreit");  // nothing there yet
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+  MakeCup();
+  app.model.Profile(0).sectionCount = 2;
+  app.model.Part(0).Sections = 20;
+  PressItem("memsave");
+  app.model.Part(0).maxfaces = 0;
+  app.revolveprof.Option2.SetValue(true);
+  PressItem("restoreit");
+  EXPECT_EQ(app.model.Part(0).maxfaces, 221);
+  EXPECT_EQ(app.model.Part(0).Sections, 20);
+  EXPECT_EQ(app.model.Profile(0).sectionCount, 4);
+  EXPECT_EQ(app.revolveprof.HScroll10.value(), 4);
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(FileWindows, ObjExportWritesItsMaterialFileBeside) {
+  MakeCup();
+  app.form14.Check3.SetValue(true);
+  const auto obj = folder() / "objs" / "cup.obj";
+  platform.QueueAnswer(obj.string());
+  app.form14.Command26.Press();
+  EXPECT_EQ(app.form14.Text13.text(), obj.string());
+  const std::string text = BytesOf(obj);
+  EXPECT_TRUE(text.starts_with("mtllib " + obj.string() + "_materialfile.mtl\r\nv 50 -80 0\r\n"));
+  EXPECT_TRUE(BytesOf(obj.string() + "_materialfile.mtl").starts_with("newmtl material_0\r\n"));
+}
+
+TEST_F(FileWindows, UseGroupsSetsBothKinds) {
+  app.form14.Check2.Press({});
+  EXPECT_FALSE(app.form14.Check1.value());
+  app.form14.Check2.Press({});
+  EXPECT_TRUE(app.form14.Check1.value() && app.form14.Check13.value());
+}
+
+TEST_F(FileWindows, AreaEstimateShowsInTheViewOptions) {
+  FaceRec& face = app.model.Faces(0, 1);
+  face.c2X = 3, face.c3Y = 4;
+  app.model.Part(0).maxfaces = 1;
+  PressItem("estarea");
+  EXPECT_EQ(app.form51.Label19.caption(), "Sq Units 6");
+}
+
+TEST_F(FileWindows, PlainFilesThroughTheirButtons) {
+  MakeCup();
+  const std::string path = (folder() / "faces.txt").string();
+  app.form31.Text1.SetText(path);
+  app.form31.Command8.Press();
+  app.form31.Text2.SetText(path);
+  app.form51.HScroll4.SetValue(1);
+  app.form31.Command3.Press();
+  EXPECT_EQ(app.model.Part(1).maxfaces, 221);
+  EXPECT_EQ(app.model.Part(1).maxpoints, 663);
+  EXPECT_EQ(PointRangeEnd(app), 663);
+  app.form31.Command1.Press();  // the Part's own text
+  app.form31.Command4.Press();
+  EXPECT_EQ(app.model.Part(1).maxfaces, 221);
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(FileWindows, ListsFillTheNameBoxes) {
+  WriteBytes(folder() / "projects" / "a.prj", "x");
+  app.form31.Load();
+  app.form31.File2.Pick(0);
+  EXPECT_EQ(app.form31.Text2.text(), (folder() / "projects" / "a.prj").string());
+  app.form31.Dir2.Pick(0);
+  app.form31.Dir2.DoubleClick();
+  EXPECT_EQ(app.form31.Dir2.folder(), folder());
+}
+
+}  // namespace
+}  // namespace pelorium

@@ -1,0 +1,175 @@
+// The view under the mouse, the View Options and the shared ranges.
+#include <gtest/gtest.h>
+
+#include "app_fixture.h"
+#include "windows/follow_counts.h"
+#include "windows/form36.h"
+#include "windows/form5.h"
+#include "windows/form51.h"
+#include "windows/formulas.h"
+#include "windows/refresh_views.h"
+#include "windows/shared_parameters.h"
+
+namespace pelorium {
+namespace {
+
+using ViewWindow = AppTest;
+
+TEST_F(ViewWindow, ClicksDrawTheProfile) {
+  ClickAt(388.75F, -408.25F);
+  ClickAt(400, -300);
+  EXPECT_EQ(app.model.ProfilePts(0, 0).X, 70);   // floor(388.75) - 318
+  EXPECT_EQ(app.model.ProfilePts(0, 0).Z, -91);  // floor(-408.25) + 318
+  EXPECT_EQ(app.model.Profile(0).count, 2);
+  EXPECT_EQ(app.form51.Label17.caption(), "2");
+  EXPECT_EQ(app.form51.HScroll6.value(), 2);
+  EXPECT_EQ(app.formulas.HScroll27.value(), 2);
+  EXPECT_EQ(app.form36.Label16.caption(), "1");
+  ClickAt(1, -1, MouseButton::Right);
+  EXPECT_EQ(app.model.Profile(0).count, 2);
+  EXPECT_EQ(app.model.ProfilePts(2, 0).X, -317);
+}
+
+TEST_F(ViewWindow, SubViewsDrawInTheirPlane) {
+  app.formulas.HScroll28.SetValue(44);
+  app.formulas.Option6.SetValue(true);
+  ClickAt(328, -298);
+  EXPECT_EQ(app.model.ProfilePts(0, 0).X, 44);
+  EXPECT_EQ(app.model.ProfilePts(0, 0).Y, 20);
+  EXPECT_EQ(app.model.ProfilePts(0, 0).Z, 10);
+  app.formulas.Option7.SetValue(true);
+  ClickAt(328, -298);
+  EXPECT_EQ(app.model.Profile(0).count, 1);  // nothing is drawn in the oblique view
+  app.formulas.Option4.SetValue(true);
+  app.form51.Check8.SetValue(false);
+  ClickAt(328, -298);
+  EXPECT_EQ(app.model.Profile(0).count, 1);
+}
+
+TEST_F(ViewWindow, SetToZeroStartsTheProfileOver) {
+  ClickAt(388, -408);
+  app.form51.Command17.Press();
+  EXPECT_EQ(app.model.Profile(0).count, 0);
+  EXPECT_EQ(app.form51.Label17.caption(), "0");
+}
+
+TEST_F(ViewWindow, LiveLabelsFollowTheMouse) {
+  ClickAt(318, -318);
+  Mouse(UserAction::MouseMove, 321, -314);
+  EXPECT_EQ(app.form36.Label4.caption(), "3");
+  EXPECT_EQ(app.form36.Label5.caption(), "4");
+  EXPECT_EQ(app.form36.Label13.caption(), "5");
+  ASSERT_EQ(app.form36.Picture1.picture.overlay.size(), 1U);
+  const int before = app.form36.Picture1.picture.PixelAt(400, 100);
+  Mouse(UserAction::MouseMove, 500, -50);
+  EXPECT_EQ(app.form36.Picture1.picture.PixelAt(400, 100),
+            before);  // the line is over the picture, not in it
+  app.form51.Check15.SetValue(false);
+  EXPECT_TRUE(app.form36.Picture1.picture.overlay.empty());
+}
+
+TEST_F(ViewWindow, ZoomChangesScalesAndPans) {
+  app.form36.Command12.Press(MouseButton::Left);
+  EXPECT_EQ(app.form36.Picture1.picture.ScaleWidth(), 723);
+  EXPECT_EQ(app.form36.VScroll1.value(), -238);
+  EXPECT_EQ(app.form36.HScroll1.value(), 398);
+  app.form51.Command26.Press(MouseButton::Right);
+  EXPECT_EQ(app.form36.Picture1.picture.ScaleWidth(), 903.75);
+  for (int i = 0; i < 40; ++i) app.form36.Command12.Press(MouseButton::Left);
+  EXPECT_GE(app.form36.Picture1.picture.ScaleWidth(), 1);
+  for (int i = 0; i < 80; ++i) app.form36.Command12.Press(MouseButton::Right);
+  EXPECT_LE(app.form36.Picture1.picture.ScaleWidth(), 8000);
+}
+
+TEST_F(ViewWindow, ResizeKeepsUnitsPerPixelAndTheCorner) {
+  app.Deliver({"Form36", "Picture1", UserAction::Resize, 0, "", {}, 0, 0, 482, 1274});
+  const Picture& picture = app.form36.Picture1.picture;
+  EXPECT_EQ(picture.PixelWidth(), 482);
+  EXPECT_EQ(picture.ScaleWidth(), 482);
+  EXPECT_EQ(picture.ScaleHeight(), -1274);
+  EXPECT_EQ(app.form36.HScroll1.value(), 318);
+  app.Deliver({"Form36", "Picture1", UserAction::Resize, 0, "", {}, 0, 0, 0, 5});
+  EXPECT_EQ(picture.PixelHeight(), 1274);
+}
+
+TEST_F(ViewWindow, ProfileChoiceShowsItsCountAndWritesNothing) {
+  app.model.Profile(7).count = 12;
+  ClickAt(388, -408);
+  app.form51.HScroll3.SetValue(7);
+  EXPECT_EQ(app.form51.HScroll6.value(), 12);
+  EXPECT_EQ(app.form51.Label17.caption(), "12");
+  app.form51.HScroll3.SetValue(0);
+  EXPECT_EQ(app.model.Profile(7).count, 12);
+  EXPECT_EQ(app.model.Profile(0).count, 1);
+  EXPECT_EQ(app.form51.HScroll6.value(), 1);
+}
+
+TEST_F(ViewWindow, PartChoiceOpensTheRanges) {
+  app.model.Part(1).maxpoints = 9000;
+  app.model.Part(1).maxfaces = 50;
+  app.model.Part(1).Sections = 60;
+  app.form51.HScroll4.SetValue(1);
+  EXPECT_EQ(PointRangeStart(app), 1);
+  EXPECT_EQ(PointRangeEnd(app), 9000);
+  EXPECT_EQ(app.form5.Text39.text(), "9000");
+  EXPECT_EQ(FaceRangeEnd(app), 50);
+  EXPECT_EQ(app.form5.HScroll11.value(), 1);
+  EXPECT_EQ(app.form5.HScroll5.value(), 61);
+  EXPECT_EQ(app.form51.Label3.caption(), "50faces  points 9000");
+  app.form5.HScroll11.SetValue(0);
+  EXPECT_EQ(CurrentPart(app), 0);
+  EXPECT_EQ(FaceRangeEnd(app), 0);
+  EXPECT_EQ(FaceRangeStart(app), 1);
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(ViewWindow, OriginIsReadByLeadingNumbers) {
+  app.form5.Text5.SetText("3.5x");
+  app.form5.Text9.SetText("no");
+  EXPECT_EQ(Origin(app), (Vec3{3.5, 0, 0}));
+}
+
+TEST_F(ViewWindow, CalculatorAndItsZero) {
+  app.form51.Command5.Press();
+  EXPECT_EQ(app.form51.Label24.caption(), "10");
+  app.form51.Text9.SetText("0");
+  app.form51.Command5.Press();
+  EXPECT_EQ(app.form51.Label24.caption(), "10");
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+  app.form51.Text5.SetText("0.3");
+  app.form51.Command3.Press();
+  EXPECT_EQ(app.form51.Label21.caption(), "0.03");
+}
+
+TEST_F(ViewWindow, ShadedScaleFollowsBothBars) {
+  EXPECT_EQ(app.form51.Label33.caption(), ".0007");
+  app.form51.HScroll13.SetValue(25);
+  EXPECT_EQ(app.form51.Label33.caption(), "0.0025");
+}
+
+TEST_F(ViewWindow, FacesStayBehindWithCheck6) {
+  MakeCup();
+  const double before = app.model.Faces(0, 1).c1X;
+  app.model.Points(0, 1).X = 999;
+  app.form51.Check6.SetValue(true);
+  SyncFaceCorners(app);
+  EXPECT_EQ(app.model.Faces(0, 1).c1X, before);
+  app.form51.Check6.SetValue(false);
+  SyncFaceCorners(app);
+  EXPECT_EQ(app.model.Faces(0, 1).c1X, 999);
+}
+
+TEST_F(ViewWindow, AFaultWhileDrawingEndsTheDrawingOnly) {
+  MakeCup();
+  app.model.Faces(0, 3).group = 99;
+  RefreshViews(app);
+  const auto faults = app.faults.TakeAll();
+  ASSERT_EQ(faults.size(), 1U);
+  EXPECT_EQ(faults[0], "RefreshViews: subscript out of range: group 99");
+  app.model.Faces(0, 3).group = 0;
+  RefreshViews(app);
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+}  // namespace
+}  // namespace pelorium
