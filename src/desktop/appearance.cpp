@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace pelorium {
 
@@ -40,6 +41,18 @@ class PeloriumStyle : public QProxyStyle {
                 QStyleHintReturn* result) const override {
     if (hint == SH_MenuBar_AltKeyNavigation) return 1;
     return QProxyStyle::styleHint(hint, option, widget, result);
+  }
+  // A head that the keyboard stands on looks like one that is open; the style beneath shows no difference.
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element != CE_MenuBarItem || item == nullptr || !item->state.testFlag(State_Selected)) {
+      QProxyStyle::drawControl(element, option, painter, widget);
+      return;
+    }
+    QStyleOptionMenuItem shown = *item;
+    shown.state |= State_Sunken;
+    QProxyStyle::drawControl(element, &shown, painter, widget);
   }
 };
 

@@ -79,7 +79,8 @@ void Face::Refresh() {
   RefreshControls();
   RefreshWindows();
   RefreshPictures();
-  if (app_.exitRequested) QCoreApplication::quit();
+  // Not quit(): it asks the windows, and those leave their closing to the program.
+  if (app_.exitRequested) QCoreApplication::exit();
 }
 
 void Face::RefreshControls() {

@@ -8,9 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStatusBar>
-#include <QStyle>
 #include <algorithm>
 
 #include "controls/user_event.h"
@@ -28,6 +26,12 @@ constexpr char kViewWindow[] = "Form36";
 constexpr char kExitItem[] = "exiter";
 constexpr int kCascadeSteps = 6;
 constexpr int kCascadeStep = 28;  // pixels: a title bar's height, so that each title stays in sight
+
+// What a subwindow's title and edges add to its content.
+QSize FrameAround(const QMdiSubWindow& sub) {
+  const QMargins edges = sub.contentsMargins();
+  return {edges.left() + edges.right(), edges.top() + edges.bottom()};
+}
 
 }  // namespace
 
@@ -77,7 +81,9 @@ void MainWindow::SyncMenuItem(const Control& item) {
 
 void MainWindow::SyncFrame() {
   setWindowTitle(ToQt(frame_.caption()));
-  if (isVisible() != frame_.visible()) setVisible(frame_.visible());
+  if (isVisible() == frame_.visible()) return;
+  setVisible(frame_.visible());
+  if (frame_.visible()) activateWindow();
 }
 
 void MainWindow::Sync(WindowView& view) {
@@ -118,11 +124,11 @@ void MainWindow::PlaceFirst(WindowView& view) {
     return;
   }
   const int shift = (1 + cascaded_++ % kCascadeSteps) * kCascadeStep;
-  const QRect room = Room().adjusted(shift, shift, 0, 0);
+  const QSize room = Room().size();
   QMdiSubWindow& sub = *view.subWindow();
-  const QSize frameAround = sub.sizeHint() - sub.widget()->sizeHint();
-  const QSize widest(Room().width() * 2 / 3, room.height());
-  sub.setGeometry(QRect(room.topLeft(), view.ComfortableSize(widest - frameAround) + frameAround));
+  const QSize around = FrameAround(sub);
+  const QSize size = view.ComfortableSize(QSize(room.width() * 2 / 3, room.height()) - around) + around;
+  sub.setGeometry(QRect(QPoint(shift, std::min(shift, room.height() - size.height())), size));
 }
 
 bool MainWindow::MayBePlaced(const WindowView* view, const QRect& lastGiven) const {
@@ -134,8 +140,8 @@ void MainWindow::FillArea() {
   int left = 0;
   if (MayBePlaced(options_, optionsGiven_)) {
     QMdiSubWindow& sub = *options_->subWindow();
-    const QSize frameAround = sub.sizeHint() - sub.widget()->sizeHint();
-    const int comfortable = (options_->ComfortableSize(room.size() - frameAround) + frameAround).width();
+    const QSize around = FrameAround(sub);
+    const int comfortable = (options_->ComfortableSize(room.size() - around) + around).width();
     sub.setGeometry(0, 0, std::min(comfortable, room.width() * 45 / 100), room.height());
     optionsGiven_ = sub.geometry();
   }

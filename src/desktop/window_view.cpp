@@ -93,15 +93,15 @@ QDialog& WindowView::AsDialog(QWidget* parent) {
 
 bool WindowView::TakeShow() { return std::exchange(showsSeen_, window_.shows()) != window_.shows(); }
 
+// The width of a scroll bar is added in any case: an area that once needed one and would do without keeps it
+// when its content is laid out for the narrower width.
 QSize WindowView::ComfortableSize(QSize room) const {
   QWidget& widget = *content_->widget();
-  const int width = std::max(widget.sizeHint().width(), widget.minimumSizeHint().width());
-  const int height = widget.hasHeightForWidth()
-                         ? std::max(widget.heightForWidth(width), widget.minimumSizeHint().height())
-                         : widget.sizeHint().height();
-  QSize size(width, height);
-  if (size.height() > room.height()) size.rwidth() += content_->verticalScrollBar()->sizeHint().width();
-  return size.boundedTo(room);
+  const QSize least = widget.minimumSizeHint();
+  const int width = std::max(widget.sizeHint().width(), least.width());
+  const int height = widget.hasHeightForWidth() ? widget.heightForWidth(width) : widget.sizeHint().height();
+  const int forBar = content_->verticalScrollBar()->sizeHint().width();
+  return QSize(width + forBar, std::max(height, least.height())).boundedTo(room);
 }
 
 void WindowView::TellClosed() {

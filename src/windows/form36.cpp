@@ -45,6 +45,7 @@ Form36::Form36(App& app) : Window(app.host, "Form36", "View and edit window"), a
   Picture1.picture.SetScale(15, -15);
   for (ScrollBar* pan : {&HScroll1, &VScroll1}) pan->onChange = [this] { RefreshViews(app_); };
   Command12.onClick = [this](const Click& click) { ZoomByButton(click); };
+  Home.onClick = [this](const Click&) { ResetView(); };
   // What the mouse does in these modes is still to come.
   for (OptionButton* mode : {&Option7, &Option8, &Option9, &Option10, &Option11, &Option1}) {
     mode->SetEnabled(false);
@@ -58,10 +59,11 @@ LayoutItem Form36::DeclareLayout() {
   for (const auto& button : commandRow) row.push_back(button.get());
   return Column({
       Flow(std::move(row)),
-      Row({Flow({&Option7, &Option8, &Option9, &Option10, &Option11, &Option1, &Command12})}),
+      Flow({&Option7, &Option8, &Option9, &Option10, &Option11, &Option1, &Command12, &Home}),
       Row({Single(Label54), Labelled("Layer or Point:", Label16), Labelled("loc x", Label4),
-           Labelled("loc y (or z)", Label5), Labelled("length", Label13), Labelled("totalpoints", Label39),
-           Labelled("total tri faces", Label47), Labelled("", Label49)}),
+           Labelled("loc y (or z)", Label5), Labelled("length", Label13)}),
+      Row({Labelled("totalpoints", Label39), Labelled("total tri faces, Part 0", Label47),
+           Labelled("Part 1", Label49)}),
       Stretching(Row({Stretching(Single(Picture1)), Single(VScroll1)})),
       Single(HScroll1),
   });
@@ -69,7 +71,7 @@ LayoutItem Form36::DeclareLayout() {
 
 void Form36::Load() {
   ResetView();
-  RefreshViews(app_);
+  app_.form51.Option1.SetValue(true);
 }
 
 // One unit a pixel. The pan X is half the height, not half the width: a zoom moves both pans by the height's
@@ -80,7 +82,7 @@ void Form36::ResetView() {
   const int half = picture.PixelHeight() / 2;
   HScroll1.SetValue(HScroll1.Clamped(half));
   VScroll1.SetValue(VScroll1.Clamped(-half));
-  app_.form51.Option1.SetValue(true);
+  RefreshViews(app_);  // the pans may stand there already
 }
 
 // Units per pixel and the top left corner stay where they are.
@@ -90,8 +92,7 @@ void Form36::Picture1_Resize(int pixelWidth, int pixelHeight) {
   const double height = picture.ScaleHeight() * pixelHeight / picture.PixelHeight();
   picture.Resize(pixelWidth, pixelHeight);
   picture.SetScale(width, height);
-  if (!app_.started) ResetView();
-  RefreshViews(app_);
+  app_.started ? RefreshViews(app_) : ResetView();
 }
 
 void Form36::ZoomByButton(const Click& click) {

@@ -56,6 +56,8 @@ class Form36 : public Window {
   OptionButton Option1{*this, "Option1", "M&ove Point |", "mode", false, "set to none on the left", kDisarms};
   PushButton Command12{*this, "Command12", "ZM", "left button zooms in, right button zooms out"};
 
+  PushButton Home{*this, "Home", "Home", "back to one unit a pixel, with the origin in sight"};
+
   // The row of commands, from the command table.
   std::vector<std::unique_ptr<PushButton>> commandRow;
 

@@ -47,6 +47,9 @@ Form51::Form51(App& app) : Window(app.host, "Form51", "View Options"), app_(app)
   Command5.onClick = [this](const Click&) { Command5_Click(); };
   Command3.onClick = [this](const Click&) { Command3_Click(); };
   BindViews();
+  // The shaded picture is still to come.
+  Option11.SetEnabled(false);
+  Command2.SetEnabled(false);
   SetLayout(DeclareLayout());
 }
 
@@ -66,7 +69,8 @@ LayoutItem Form51::DeclareLayout() {
       Frame("Part and profile",
             {BarRow(HScroll4, {&Text3}), BarRow(HScroll3, {&Text2}), BarRow(HScroll6, {&Label17}),
              BarRow(HScroll2, {&Text1}), Flow({&Command17})}),
-      Frame("View", {Flow({&Option1, &Option4, &Option2, &Option5, &Option6, &Option16, &Option3})}),
+      Frame("View", {Flow({&Option1, &Option4, &Option2, &Option5, &Option6, &Option16, &Option3, &Option11,
+                           &Command2})}),
       Frame("Show", {Flow({&Check1, &Check30, &Check7, &Check10, &Check9, &Check3, &Check14, &Check16,
                            &Check12, &Check15, &Check17, &Check13, &Check21})}),
       Frame("Faces",

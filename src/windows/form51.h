@@ -42,6 +42,8 @@ class Form51 : public Window {
   OptionButton Option6{*this, "Option6", "Side View", "view"};
   OptionButton Option4{*this, "Option4", "View 3D", "view"};
   OptionButton Option16{*this, "Option16", "Tri View", "view"};
+  OptionButton Option11{*this, "Option11", "Shaded view", "view"};
+  PushButton Command2{*this, "Command2", "Shaded View"};
 
   CheckBox Check1{*this, "Check1", "Show grid", true};
   CheckBox Check7{*this, "Check7", "Show unselected", true, "wire of both Parts"};

@@ -66,9 +66,10 @@ ViewSettings Gather(const App& app) {
 
 void RefreshViews(App& app) {
   Trapped(app.faults, "RefreshViews", [&app] {
-    const ViewSettings settings = Gather(app);
     Form36& view = app.form36;
     view.ShowTotals();
+    if (app.form51.Option11.value()) return;  // the shaded picture is not drawn in lines
+    const ViewSettings settings = Gather(app);
     if (settings.mode != ViewMode::None) view.Label54.SetCaption(std::string(ViewCaption(settings)));
     view.Picture1.picture.overlay.clear();
     view.Picture1.NotifyChanged();

@@ -29,7 +29,7 @@ void FaceTest::TearDown() {
 
 void FaceTest::PassSplash() {
   QTest::mouseClick(&Shown<QWidget>("frmSplash.Picture1"), Qt::LeftButton);
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&session_->face().frame()));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&session_->face().frame()));
   Settle();
   // Out of the way of what hovers.
   QTest::mouseMove(&session_->face().frame(), QPoint(5, session_->face().frame().height() - 5));

@@ -2,18 +2,23 @@
 // screen.
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
 #include <QMdiSubWindow>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QStatusBar>
 #include <QStyleOptionSlider>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
+#include <QWheelEvent>
+#include <algorithm>
 
+#include "controls/lists.h"
 #include "controls/picture_box.h"
+#include "controls/rich_text_box.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "desktop/face_fixture.h"
@@ -167,7 +172,30 @@ TEST_F(FaceTest, ABarIsDraggedByItsThumb) {
             0);
 }
 
-TEST_F(FaceTest, ABarListensToTheKeyboardAndTheWheel) {
+void TurnWheel(QWidget& widget, int notches) {
+  const QPointF place(widget.rect().center());
+  QWheelEvent wheel(place, widget.mapToGlobal(place), QPoint(), QPoint(0, 120 * notches), Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&widget, &wheel);
+}
+
+// The window of the bar is too tall for the frame: the wheel scrolls it unless the bar was chosen first.
+TEST_F(FaceTest, ABarTakesTheWheelOnceItIsChosen) {
+  PassSplash();
+  auto& widget = Shown<QScrollBar>("Form51.HScroll8");
+  auto& bar = Controlled<ScrollBar>("Form51", "HScroll8");
+  const int before = bar.value();
+  Shown<QLineEdit>("Form51.Text6").setFocus();
+  TurnWheel(widget, -1);
+  Settle();
+  EXPECT_EQ(bar.value(), before);
+  widget.setFocus();
+  TurnWheel(widget, 1);
+  Settle();
+  EXPECT_GT(bar.value(), before) << "away from the person is more";
+}
+
+TEST_F(FaceTest, ABarListensToTheKeyboard) {
   PassSplash();
   auto& widget = Shown<QScrollBar>("Form51.HScroll8");
   auto& bar = Controlled<ScrollBar>("Form51", "HScroll8");
@@ -273,6 +301,72 @@ TEST_F(FaceTest, AnswersOfFileDialogsComeBeforeTheirEvent) {
   MenuAction(session_->face().frame(), "MDIForm1.saveproj")->trigger();
   EXPECT_TRUE(std::filesystem::exists(target.string() + ".prj"));
   EXPECT_EQ(NewJournalLines(), (Lines{"answer \"" + target.string() + ".prj\"", "press MDIForm1.saveproj"}));
+}
+
+TEST_F(FaceTest, AModalWindowRunsUntilItIsClosed) {
+  PassSplash();
+  Window& about = *app().FindWindow("frmAbout");
+  const Window* modal = nullptr;
+  QTimer::singleShot(300, [&] {
+    if (QApplication::activeModalWidget() != nullptr) modal = &about;
+    QTest::mouseClick(&Shown<QPushButton>("frmAbout.cmdOK"), Qt::LeftButton);
+  });
+  app().platform.RunModal(about);
+  EXPECT_EQ(modal, &about);
+  EXPECT_FALSE(about.visible());
+  EXPECT_FALSE(IsShown("frmAbout"));
+  EXPECT_EQ(NewJournalLines(), (Lines{"modal frmAbout", "press frmAbout.cmdOK", "end"}));
+
+  QTimer::singleShot(300, [&] { QApplication::activeModalWidget()->close(); });
+  app().platform.RunModal(about);
+  EXPECT_EQ(NewJournalLines(), (Lines{"modal frmAbout", "set frmAbout.visible 0", "end"}));
+
+  // The same window can stand in the frame as well.
+  about.Show();
+  Settle();
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(IsShown("frmAbout.cmdOK"));
+}
+
+TEST_F(FaceTest, AClickOnAListChoosesAndADoubleClickActsOnce) {
+  std::filesystem::create_directories(home_ / "one");
+  std::filesystem::create_directories(home_ / "two");
+  PassSplash();
+  auto& folders = Controlled<DirList>("Form31", "Dir1");
+  app().FindWindow("Form31")->Show();
+  folders.SetFolder(home_);
+  Settle();
+  auto& list = Shown<QListWidget>("Form31.Dir1");
+  ASSERT_EQ(list.count(), 3);
+  EXPECT_EQ(list.item(2)->text(), "two");
+  const QPoint place = list.visualItemRect(list.item(1)).center();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  EXPECT_EQ(NewJournalLines(), (Lines{"drag Form31.Dir1 1"}));
+  EXPECT_EQ(folders.folder(), home_) << "one click only chooses";
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  Settle();
+  const Lines lines = NewJournalLines();
+  EXPECT_EQ(std::count(lines.begin(), lines.end(), "doubleclick Form31.Dir1"), 1);
+}
+
+TEST_F(FaceTest, WritingInARichTextReachesTheProgram) {
+  PassSplash();
+  auto& box = Controlled<RichTextBox>("helpme", "RichTextBox1");
+  box.SetText(RichText("first\nsecond"));
+  app().FindWindow("helpme")->Show();
+  Settle();
+  auto& edit = Shown<QTextEdit>("helpme.RichTextBox1");
+  EXPECT_EQ(edit.toPlainText(), "first\nsecond");
+  edit.moveCursor(QTextCursor::End);
+  QTest::keyClicks(&edit, " one");
+  EXPECT_EQ(box.text().Plain(), "first\nsecond one");
+  edit.moveCursor(QTextCursor::Start);
+  edit.moveCursor(QTextCursor::EndOfLine, QTextCursor::KeepAnchor);
+  EXPECT_EQ(box.SelectedText(), "first");
+  box.ToggleBold();
+  Settle();
+  EXPECT_EQ(edit.textCursor().selectedText(), "first");
+  EXPECT_GE(edit.textCursor().charFormat().fontWeight(), QFont::Bold);
 }
 
 TEST_F(FaceTest, ClosingTheFrameEndsTheProgram) {
