@@ -1,5 +1,6 @@
 // What a person does with mouse and keyboard reaches the program, and what the program draws reaches the
 // screen.
+#include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
@@ -371,7 +372,9 @@ TEST_F(FaceTest, WritingInARichTextReachesTheProgram) {
 
 TEST_F(FaceTest, ClosingTheFrameEndsTheProgram) {
   PassSplash();
-  session_->face().frame().close();
+  QTimer::singleShot(50, [this] { session_->face().frame().close(); });
+  QTimer::singleShot(5000, [] { QApplication::exit(1); });
+  EXPECT_EQ(QApplication::exec(), 0) << "the loop of events did not end";
   EXPECT_TRUE(app().exitRequested);
   EXPECT_EQ(NewJournalLines(), (Lines{"press MDIForm1.exiter"}));
 }
