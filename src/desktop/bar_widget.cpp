@@ -36,7 +36,13 @@ void BarWidget::Sync() {
   setSingleStep(std::max(1, bar_.smallChange));
   setPageStep(std::max(1, bar_.largeChange));
   if (!isPending_) setValue(bar_.value());
+  if (valueLabel_ != nullptr) valueLabel_->setNum(bar_.value());
   SyncCommon(*this, bar_);
+}
+
+void BarWidget::ShowValueIn(QLabel* label) {
+  valueLabel_ = label;
+  Sync();
 }
 
 void BarWidget::OnMoved() {

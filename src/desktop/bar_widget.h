@@ -1,6 +1,7 @@
 // A scroll bar on the screen.
 #pragma once
 
+#include <QLabel>
 #include <QScrollBar>
 
 #include "controls/scroll_bar.h"
@@ -18,6 +19,9 @@ class BarWidget : public QScrollBar, public ControlView, private PendingInput {
   QWidget* widget() override { return this; }
   void Sync() override;
 
+  // A bar that no box mirrors shows its value in a label beside it.
+  void ShowValueIn(QLabel* label);
+
  protected:
   void wheelEvent(QWheelEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -29,6 +33,7 @@ class BarWidget : public QScrollBar, public ControlView, private PendingInput {
 
   ScrollBar& bar_;
   Dispatcher& dispatcher_;
+  QLabel* valueLabel_ = nullptr;
   bool isPending_ = false;
 };
 

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <algorithm>
 
+#include "desktop/bar_widget.h"
 #include "desktop/flow_layout.h"
 #include "desktop/label_widgets.h"
 #include "desktop/qt_text.h"
@@ -49,7 +50,8 @@ bool IsUprightBar(const LayoutItem& item, const LayoutItem& row) {
 int ColumnsOf(const std::vector<LayoutItem>& items) {
   std::size_t columns = kFirstBoxColumn;
   for (const LayoutItem& item : items) {
-    if (item.kind == LayoutKind::BarRow) columns = std::max(columns, item.controls.size() + 1);
+    if (item.kind == LayoutKind::BarRow)
+      columns = std::max<std::size_t>(columns, std::max<std::size_t>(3, item.controls.size() + 1));
   }
   return static_cast<int>(columns);
 }
@@ -135,11 +137,17 @@ QWidget* LayoutBuilder::MakeColumn(const std::vector<LayoutItem>& items, QWidget
 void LayoutBuilder::AddLabelled(const LayoutItem& item, QGridLayout& grid, int row, QWidget* column) {
   QLabel* label = MakeText(item.title, column);
   grid.addWidget(label, row, kLabelColumn, Qt::AlignVCenter);
-  const bool isOnlyOne = item.controls.size() == 1;
+  const bool isBareBar = item.kind == LayoutKind::BarRow && item.controls.size() == 1;
+  const bool isOnlyOne = item.controls.size() == 1 && !isBareBar;
   grid.addWidget(MakeControl(*item.controls.at(0), column), row, kBarColumn, 1, isOnlyOne ? -1 : 1);
   for (std::size_t i = 1; i < item.controls.size(); ++i) {
     const int at = kFirstBoxColumn + static_cast<int>(i) - 1;
     grid.addWidget(MakeControl(*item.controls[i], column), row, at, Qt::AlignVCenter);
+  }
+  if (isBareBar) {
+    auto* value = new QLabel(column);
+    grid.addWidget(value, row, kFirstBoxColumn, Qt::AlignVCenter);
+    if (auto* bar = dynamic_cast<BarWidget*>(views_.at(item.controls[0]))) bar->ShowValueIn(value);
   }
   PutBefore(label, *item.controls[0]);
 }

@@ -215,28 +215,28 @@ void RevolveProf::Command18_Click() {
   RefreshViews(app_);
 }
 
+// One narrow column: the picture stays in sight while the bars are moved.
 LayoutItem RevolveProf::DeclareLayout() {
   std::vector<LayoutItem> general;
   for (const GeneralField& f : generalFields_) general.push_back(BarRow(*f.bar, {f.box}));
   return Column({
-      Row({Flow({&Command15, &Command18}), Flow({&Option4, &Option2})}),
-      Row({Column(
-               {Frame("Sections and layers",
-                      {BarRow(HScroll10, {&Text8}), BarRow(HScroll4, {&Text9}), BarRow(HScroll9, {&Text7}),
-                       BarRow(HScroll11, {&Text6}), BarRow(HScroll3, {&Text33}), BarRow(HScroll6, {&Text34}),
-                       BarRow(HScroll22, {}), BarRow(HScroll7, {}), BarRow(HScroll27, {})}),
-                Frame("Simple Revolve Settings", {BarRow(HScroll48, {&Text40}), BarRow(HScroll47, {&Text41}),
-                                                  BarRow(HScroll49, {&Text44}), BarRow(HScroll50, {&Text47}),
-                                                  BarRow(HScroll46, {&Text43})})}),
-           Column(
-               {Frame("Petals, spiral, corkscrew",
-                      {BarRow(HScroll15, {&Text46}), BarRow(HScroll13, {&Text11}), BarRow(HScroll8, {&Text5}),
-                       BarRow(HScroll2, {&Text45}), BarRow(HScroll16, {&Text12}),
-                       BarRow(HScroll17, {&Text13}), BarRow(HScroll5, {&Text3}), BarRow(HScroll1, {&Text1}),
-                       Single(Check14), BarRow(HScroll42, {&Text39})}),
-                Frame("General Positioning", std::move(general))})}),
+      Flow({&Command15, &Command18}),
+      Flow({&Option4, &Option2}),
+      Frame("Sections and layers",
+            {BarRow(HScroll10, {&Text8}), BarRow(HScroll4, {&Text9}), BarRow(HScroll9, {&Text7}),
+             BarRow(HScroll11, {&Text6}), BarRow(HScroll3, {&Text33}), BarRow(HScroll6, {&Text34}),
+             BarRow(HScroll22, {}), BarRow(HScroll7, {}), BarRow(HScroll27, {})}),
+      Frame("Petals, spiral, corkscrew",
+            {BarRow(HScroll15, {&Text46}), BarRow(HScroll13, {&Text11}), BarRow(HScroll8, {&Text5}),
+             BarRow(HScroll2, {&Text45}), BarRow(HScroll16, {&Text12}), BarRow(HScroll17, {&Text13}),
+             BarRow(HScroll5, {&Text3}), BarRow(HScroll1, {&Text1}), Single(Check14),
+             BarRow(HScroll42, {&Text39})}),
       Frame("Ends",
             {Flow({&Check4, &Check2, &Check1, &Check8, &Check6, &Check7, &Check9, &Check10, &Check5})}),
+      Frame("General Positioning", std::move(general)),
+      Frame("Simple Revolve Settings",
+            {BarRow(HScroll48, {&Text40}), BarRow(HScroll47, {&Text41}), BarRow(HScroll49, {&Text44}),
+             BarRow(HScroll50, {&Text47}), BarRow(HScroll46, {&Text43})}),
   });
 }
 
