@@ -17,7 +17,7 @@ constexpr Colour kAxisColour = Rgb(0, 0, 150);
 constexpr Colour kPlainColour = Rgb(150, 150, 150);
 constexpr Colour kBrightColour = Rgb(250, 250, 250);
 constexpr int kPointWidth = 6, kChosenPointWidth = 8, kProfilePointWidth = 3;
-constexpr float kCrossArm = 20;  // units
+constexpr double kCrossArm = 20;  // units
 
 struct Pan {
   double x, y;
@@ -176,9 +176,13 @@ void DrawParts(const ModelStore& model, const ViewSettings& settings, Picture& p
 void DrawOriginCross(const ViewSettings& settings, Picture& picture, Projection projection) {
   const Vec3& o = settings.origin;
   const ScreenPoint p = Project(projection, o.X, o.Y, o.Z);
-  const auto x = static_cast<float>(p.x + settings.panX), y = static_cast<float>(p.y + settings.panY);
-  picture.Line(x, y - kCrossArm, x, y + kCrossArm);
-  picture.Line(x - kCrossArm, y, x + kCrossArm, y);
+  const double x = p.x + settings.panX, y = p.y + settings.panY;
+  const auto line = [&picture](double x0, double y0, double x1, double y1) {
+    picture.Line(static_cast<float>(x0), static_cast<float>(y0), static_cast<float>(x1),
+                 static_cast<float>(y1));
+  };
+  line(x, y - kCrossArm, x, y + kCrossArm);
+  line(x - kCrossArm, y, x + kCrossArm, y);
 }
 
 void DrawAxes(const ViewSettings& settings, Picture& picture) {

@@ -85,9 +85,9 @@ WindowType& App::Add() {
   return static_cast<WindowType&>(*windows_.back());
 }
 
-App::App(Platform& platformToUse, std::filesystem::path path)
+App::App(Platform& platformToUse, const std::filesystem::path& path)
     : platform(platformToUse),
-      applicationPath(std::move(path)),
+      applicationPath(std::filesystem::absolute(path).lexically_normal()),
       frmSplash(Add<FrmSplash>()),
       mdiForm1(Add<MDIForm1>()),
       form51(Add<Form51>()),

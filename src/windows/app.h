@@ -38,7 +38,7 @@ struct ShadedPose {
 class App {
  public:
   // `applicationPath` is the program's working folder. Builds all windows; Start makes them ready.
-  App(Platform& platform, std::filesystem::path applicationPath);
+  App(Platform& platform, const std::filesystem::path& applicationPath);
   ~App();
   App(const App&) = delete;
   App& operator=(const App&) = delete;

@@ -40,7 +40,9 @@ void FollowCounts(App& app) {
 }
 
 void FollowSections(App& app) {
-  app.form5.HScroll5.SetValueWidening(app.model.Part(CurrentPart(app)).Sections + 1);
+  ScrollBar& pointsPerLayer = app.form5.HScroll5;
+  const int ring = std::max(pointsPerLayer.min(), app.model.Part(CurrentPart(app)).Sections + 1);
+  pointsPerLayer.SetValueWidening(ring);
 }
 
 }  // namespace pelorium

@@ -30,8 +30,8 @@ Form31::Form31(App& app) : Window(app.host, "Form31", "Save /Open Project "), ap
   Command12.onClick = [this](const Click&) { Command12_Click(); };
   Command13.onClick = [this](const Click&) { Command13_Click(); };
   Command5.onClick = [this](const Click&) { Command5_Click(); };
-  Command6.onClick = [this](const Click&) { OpenPositions(Text1); };
-  Command7.onClick = [this](const Click&) { OpenPositions(Text2); };
+  Command6.onClick = [this](const Click&) { OpenPositions(Command6, Text1); };
+  Command7.onClick = [this](const Click&) { OpenPositions(Command7, Text2); };
   Command8.onClick = [this](const Click&) { Command8_Click(); };
   Command1.onClick = [this](const Click&) { Command1_Click(); };
   Command3.onClick = [this](const Click&) { Command3_Click(); };
@@ -77,6 +77,7 @@ void Form31::Command15_Click() {
     if (name.empty()) return;
     ReadProject(app_.model, ReadFile(name));
     FollowCounts(app_);
+    FollowSections(app_);
     app_.form51.ShowProfile();
     RefreshViews(app_);
   });
@@ -114,9 +115,8 @@ void Form31::Command5_Click() {
   });
 }
 
-void Form31::OpenPositions(const TextBox& name) {
-  Trapped(app_.faults, "Form31." + name.name(),
-          [&] { ReadProfilePositions(app_.model, ReadFile(name.text())); });
+void Form31::OpenPositions(const PushButton& button, const TextBox& name) {
+  Trapped(app_.faults, button.FullName(), [&] { ReadProfilePositions(app_.model, ReadFile(name.text())); });
   RefreshViews(app_);
 }
 

@@ -10,6 +10,7 @@
 namespace pelorium {
 
 class App;
+class ModelStore;
 
 class Form31 : public Window {
  public:
@@ -53,13 +54,13 @@ class Form31 : public Window {
   void Command12_Click();
   void Command13_Click();
   void Command5_Click();
-  void OpenPositions(const TextBox& name);
+  void OpenPositions(const PushButton& button, const TextBox& name);
   void Command8_Click();
   void Command1_Click();
   void Command3_Click();
   void Command4_Click();
   void ExportInfo(const char* title, const FileWriter& write);
-  void ImportPart(const char* where, void (*read)(class ModelStore&, int, std::string_view));
+  void ImportPart(const char* where, void (*read)(ModelStore&, int, std::string_view));
   LayoutItem DeclareLayout();
 
   App& app_;

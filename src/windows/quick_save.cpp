@@ -44,6 +44,7 @@ void QuickGet(App& app) {
     ReadProject(app.model, ReadFile(QuickSaveFile(app)));
     FollowCounts(app);
     FollowProfileSections(app);
+    FollowSections(app);
     app.form51.ShowProfile();
     RefreshViews(app);
   });
