@@ -45,6 +45,7 @@ void Picture::Resize(int width, int height) {
 void Picture::Clear() {
   calls_.clear();
   cleared_ = true;
+  ground_ = backColour;
   ++revision_;
 }
 
@@ -93,7 +94,7 @@ void Picture::SetPixels(const std::vector<std::uint32_t>& pixels) {
 }
 
 void Picture::Rasterise() const {
-  if (cleared_) std::fill(pixels_.begin(), pixels_.end(), backColour);
+  if (cleared_) std::fill(pixels_.begin(), pixels_.end(), ground_);
   cleared_ = false;
   const PixelGrid grid{pixels_.data(), width_, height_};
   for (const Call& call : calls_) {

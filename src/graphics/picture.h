@@ -36,7 +36,7 @@ class Picture {
   // Gives the picture new pixels in its background colour; the scale stays.
   void Resize(int width, int height);
 
-  // Fills with the background colour.
+  // Fills with the background colour as it is now.
   void Clear();
 
   // A line in the pen's width: the pixel of its start is set, that of its end is not. Width 1 is an integer
@@ -94,6 +94,7 @@ class Picture {
   mutable std::vector<std::uint32_t> pixels_;
   mutable std::vector<Call> calls_;
   mutable bool cleared_ = true;  // the ground is to be filled before the calls
+  Colour ground_ = Rgb(64, 64, 64);
   std::uint64_t revision_ = 0;
 };
 

@@ -89,16 +89,6 @@ TEST_F(Bench, LimitsMayStandTheOtherWayRound) {
   EXPECT_EQ(swapped.Clamped(-999), -200);
 }
 
-TEST_F(Bench, AHandlerMaySetItsOwnBar) {
-  bar.onChange = [this] {
-    ++changes;
-    if (bar.value() > 10) bar.SetValue(10);
-  };
-  bar.SetValue(50);
-  EXPECT_EQ(bar.value(), 10);
-  EXPECT_EQ(changes, 2);
-}
-
 TEST_F(Bench, TypingIntoAPairMovesTheBarWithinItsLimits) {
   Pair(bar, box, 100);
   box.Type("1.25mm");
@@ -291,13 +281,6 @@ TEST_F(Bench, PropertiesOfOtherKinds) {
   EXPECT_EQ(resized, 0);
   picture.Resize(7, 5);
   EXPECT_EQ(resized, 7);
-
-  EXPECT_TRUE(SetProperty(window, "visible", 1.0));
-  EXPECT_TRUE(window.visible());
-  EXPECT_TRUE(SetProperty(window, "top", 150.0));
-  EXPECT_EQ(GetProperty(window, "top"), PropertyValue(150.0));
-  EXPECT_FALSE(SetProperty(window, "value", 1.0));
-  EXPECT_EQ(GetProperty(window, "value"), std::nullopt);
 }
 
 // A face sees every change, and the new state with it.

@@ -1,8 +1,6 @@
 // The tables' bounds, their defaults, and the corner copies.
 #include "core/model_store.h"
 
-#include <type_traits>
-
 #include "base/random_series.h"
 #include "core/part_operations.h"
 #include "support/harness.h"
@@ -105,22 +103,6 @@ TEST_F(Model, GroupsGetTheSeriesInOrder) {
   EXPECT_EQ(model.MaterialGroups(41).GroupName, "bone_41");
 }
 
-TEST_F(Model, AResetForgetsEverything) {
-  AddFace(1, 2, 3, 4);
-  model.Part(0).PartName = "vase";
-  model.Profile(5).count = 9;
-  model.ProfilePts(3, 5).Y = 4;
-  model.MaterialGroups(2).d = 0.5;
-  ResetModel(model, random);
-  EXPECT_EQ(model.Part(0).maxfaces, 0);
-  EXPECT_EQ(model.Part(0).PartName, "part_0");
-  EXPECT_EQ(model.Faces(0, 1).corner1pt, 1);
-  EXPECT_EQ(model.Points(0, 2).X, 1);
-  EXPECT_EQ(model.Profile(5).count, 0);
-  EXPECT_EQ(model.ProfilePts(3, 5).Y, 0);
-  EXPECT_EQ(model.MaterialGroups(2).d, 1);
-}
-
 TEST_F(Model, HeadersSurviveTheFirstFaceAndPoint) {
   AddFace(1, 2, 3, 4);
   model.Part(0).PartName = "vase";
@@ -131,15 +113,6 @@ TEST_F(Model, HeadersSurviveTheFirstFaceAndPoint) {
   EXPECT_EQ(model.Part(0).PartName, "vase");
   EXPECT_EQ(model.Part(0).maxfaces, 1);
   EXPECT_EQ(model.Profile(0).count, 9);
-}
-
-TEST(ModelFields, NarrowOnesAreNarrow) {
-  static_assert(std::is_same_v<decltype(PointRec::onoff), std::int16_t>);
-  static_assert(std::is_same_v<decltype(FaceRec::group), std::int16_t>);
-  static_assert(std::is_same_v<decltype(FaceRec::vt1), std::int16_t>);
-  static_assert(std::is_same_v<decltype(FaceRec::corner1pt), std::int32_t>);
-  static_assert(std::is_same_v<decltype(PartHeader::maxpoints), std::int16_t>);
-  EXPECT_LE(sizeof(PointRec), 48U);  // what the views walk at each mouse move
 }
 
 TEST_F(Model, SyncCopiesTheCornersOfTheFacesInUse) {
