@@ -16,39 +16,26 @@ TEST(SplitWords, TakesBlanksQuotesAndComments) {
     std::string line;
     Words words;
   } kCases[] = {
-      {"", {}},
       {"   \t ", {}},
-      {"get Form5.Text5", {"get", "Form5.Text5"}},
       {"  get\t\tForm5.Text5  \r", {"get", "Form5.Text5"}},
-      {"# all of it", {}},
       {"quit # the rest", {"quit"}},
       {"quit#not", {"quit#not"}},
-      {R"(type a.b "two words")", {"type", "a.b", "two words"}},
       {R"(type a.b "")", {"type", "a.b", ""}},
       {R"(type a.b "say \"so\" \\ now")", {"type", "a.b", R"(say "so" \ now)"}},
       {R"(answer "C:\new\file")", {"answer", R"(C:\new\file)"}},
-      {R"(answer C:\new\file)", {"answer", R"(C:\new\file)"}},
       {R"(type a.b "# no comment" # a comment)", {"type", "a.b", "# no comment"}},
       {R"(key a.b 5")", {"key", "a.b", "5\""}},
       {"type a.b \"\xC3\xA4 \xFF\"", {"type", "a.b", "\xC3\xA4 \xFF"}},
   };
   for (const auto& c : kCases) EXPECT_EQ(SplitWords(c.line), c.words) << c.line;
-}
-
-TEST(SplitWords, RefusesOpenAndGluedQuotes) {
   for (const char* line : {R"(")", R"(type a.b "open)", R"(type a.b "open\")", R"(type a.b "one"two)"}) {
     EXPECT_THROW(SplitWords(line), ScriptError) << line;
   }
 }
 
 TEST(Quoted, EscapesAsTheInputDoes) {
-  EXPECT_EQ(Quoted(""), R"("")");
-  EXPECT_EQ(Quoted("plain"), R"("plain")");
   EXPECT_EQ(Quoted(R"(a "b" \c)"), R"("a \"b\" \\c")");
   EXPECT_EQ(Quoted("two\r\nlines"), R"("two  lines")");
-  for (const std::string text : {"", " ", "\\", "\"", "\\\"", "a\\", "# x", "\t"}) {
-    EXPECT_EQ(SplitWords(Quoted(text)), Words{text}) << text;
-  }
 }
 
 // Words of all the characters that mean something, many times over.
@@ -72,27 +59,17 @@ TEST(ScriptWord, ComesBackFromALine) {
   }
 }
 
-TEST(NumberWord, TakesWholeWordsOnly) {
-  EXPECT_EQ(NumberWord("-1.5", "value"), -1.5);
-  EXPECT_EQ(NumberWord("+2", "value"), 2);
-  EXPECT_EQ(NumberWord("1e3", "value"), 1000);
-  EXPECT_EQ(NumberWord(".25", "value"), 0.25);
+TEST(Numbers, AreWholeWords) {
+  EXPECT_EQ(NumberWord("-1.5e3", "value"), -1500);
+  EXPECT_EQ(NumberWord("+.25", "value"), 0.25);
   for (const char* word : {"", "x", "1x", "1,5", "nan", "inf", "0x10", "1 "}) {
     EXPECT_THROW(NumberWord(word, "value"), ScriptError) << word;
   }
   EXPECT_THROW(NumberWord("1e999", "value"), Fault);
-}
-
-TEST(IntegerWord, TakesWholeNumbersOnly) {
-  EXPECT_EQ(IntegerWord("-36", "FIRST"), -36);
   EXPECT_EQ(IntegerWord("2147483647", "FIRST"), 2147483647);
   EXPECT_THROW(IntegerWord("1.5", "FIRST"), ScriptError);
   EXPECT_THROW(IntegerWord("2147483648", "FIRST"), Fault);
-}
-
-TEST(SingleWord, RoundsToSinglePrecision) {
   EXPECT_EQ(SingleWord("0.1", "X"), 0.1f);
-  EXPECT_EQ(SingleWord("16777217", "X"), 16777216.0f);
   EXPECT_THROW(SingleWord("1e39", "X"), Fault);
 }
 

@@ -59,6 +59,8 @@ class ScriptTest : public testing::Test {
     EXPECT_FALSE(Play(line)) << line;
     return err.str();
   }
+  // The error of a script of one line.
+  static std::string ErrorText(const std::string& what) { return "error: test.pls:1: " + what + "\n"; }
 
   std::string TakeNotes() { return std::exchange(notes_, {}); }
 
