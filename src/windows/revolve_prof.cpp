@@ -112,6 +112,13 @@ void RevolveProf::AutoRevolve() {
   if (Option2.value() && app_.automaticActionsHeld == 0) Command15.Press();
 }
 
+// Rings may be wider than the points per layer that the start allows.
+void RevolveProf::OpenPointsPerLayer() {
+  ScrollBar& pointsPerLayer = app_.form5.HScroll5;
+  pointsPerLayer.SetMax(std::max(pointsPerLayer.max(), kMostPointsPerLayer));
+  FollowSections(app_);
+}
+
 void RevolveProf::HScroll10_Change() {
   {
     const HoldAutomaticActions hold(app_);
@@ -121,9 +128,7 @@ void RevolveProf::HScroll10_Change() {
     app_.model.Part(CurrentPart(app_)).Sections = sections;
     HScroll11.SetMax(std::max(HScroll11.max(), kMostSections));
     HScroll11.SetValue(sections);
-    ScrollBar& pointsPerLayer = app_.form5.HScroll5;
-    pointsPerLayer.SetMax(std::max(pointsPerLayer.max(), kMostPointsPerLayer));
-    FollowSections(app_);
+    OpenPointsPerLayer();
   }
   AutoRevolve();
 }
@@ -190,9 +195,7 @@ void RevolveProf::BuildGridFaces(int width, int rows) {
   pelorium::BuildGridFaces(app_.model, part, width, rows, Check4.value() ? Seam::Wrapped : Seam::Open);
   FollowCounts(app_);
   app_.form5.HScroll20.SetValue(1);
-  ScrollBar& pointsPerLayer = app_.form5.HScroll5;
-  pointsPerLayer.SetMax(std::max(pointsPerLayer.max(), kMostPointsPerLayer));
-  FollowSections(app_);
+  OpenPointsPerLayer();
   SyncFaceCorners(app_);
   RefreshViews(app_);
 }

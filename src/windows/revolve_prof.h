@@ -145,6 +145,7 @@ class RevolveProf : public Window {
   void BindParameters();
   void BindGeneralFields();
   void AutoRevolve();
+  void OpenPointsPerLayer();
   void HScroll10_Change();
   void Command15_Click();
   void Command18_Click();
