@@ -8,11 +8,11 @@
 #include "platform/headless_platform.h"
 #include "views/draw_views.h"
 #include "windows/app.h"
-#include "windows/form36.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
+#include "windows/form36_view.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/form51_view_options.h"
 #include "windows/refresh_views.h"
-#include "windows/revolve_prof.h"
+#include "windows/revolveprof_revolve_profile.h"
 
 namespace pelorium {
 namespace {

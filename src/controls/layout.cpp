@@ -11,8 +11,8 @@ LayoutItem Column(std::vector<LayoutItem> items) { return {LayoutKind::Column, {
 
 LayoutItem Row(std::vector<LayoutItem> items) { return {LayoutKind::Row, {}, {}, std::move(items)}; }
 
-LayoutItem Frame(std::string title, std::vector<LayoutItem> items) {
-  return {LayoutKind::Frame, std::move(title), {}, std::move(items)};
+LayoutItem Frame(std::string title, std::vector<LayoutItem> items, std::string toolTip) {
+  return {LayoutKind::Frame, std::move(title), {}, std::move(items), false, std::move(toolTip)};
 }
 
 LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes) {

@@ -21,15 +21,16 @@ enum class LayoutKind {
 
 struct LayoutItem {
   LayoutKind kind = LayoutKind::Column;
-  std::string title;                // of a Frame; the label of a BarRow or of a labelled Single
-  std::vector<Control*> controls;   // of a BarRow, a Flow or a Single
-  std::vector<LayoutItem> items;    // of a Column, a Row or a Frame
-  bool stretches = false;           // takes the room that is left over
+  std::string title;               // of a Frame; the label of a BarRow or of a labelled Single
+  std::vector<Control*> controls;  // of a BarRow, a Flow or a Single
+  std::vector<LayoutItem> items;   // of a Column, a Row or a Frame
+  bool stretches = false;          // takes the room that is left over
+  std::string toolTip = {};        // of a Frame
 };
 
 LayoutItem Column(std::vector<LayoutItem> items);
 LayoutItem Row(std::vector<LayoutItem> items);
-LayoutItem Frame(std::string title, std::vector<LayoutItem> items);
+LayoutItem Frame(std::string title, std::vector<LayoutItem> items, std::string toolTip = {});
 // A bar, what it is for (its caption), and none, one or several boxes or labels that show its value.
 LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes);
 LayoutItem Flow(std::initializer_list<Control*> controls);

@@ -181,7 +181,11 @@ QWidget* LayoutBuilder::MakeRow(const LayoutItem& item, QWidget* parent) {
 }
 
 QWidget* LayoutBuilder::MakeFrame(const LayoutItem& item, QWidget* parent) {
-  if (item.controls.empty()) return MakeColumn(item.items, new QGroupBox(CaptionToShow(item.title), parent));
+  if (item.controls.empty()) {
+    auto* box = new QGroupBox(CaptionToShow(item.title), parent);
+    box->setToolTip(QString::fromStdString(item.toolTip));
+    return MakeColumn(item.items, box);
+  }
   auto* group = new GroupWidget(*item.controls[0], dispatcher_, parent);
   views_[item.controls[0]] = group;
   return MakeColumn(item.items, group);

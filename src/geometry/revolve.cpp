@@ -28,6 +28,7 @@ class Ring {
         general_(model.Profile(settings.profile)),
         profilePoint_(model.ProfilePts(layer, settings.profile)),
         layer_(layer),
+        generalTurns_(Turns::By(general_.genSpinZ, general_.genTurnY, general_.genRotateX)),
         radii_{profilePoint_.X, ToInteger<std::int32_t>(profilePoint_.X)} {}
 
   void SpaceRegularly() { profilePoint_.Z = rise_ + settings_.spacing * layer_; }
@@ -59,9 +60,7 @@ class Ring {
     p.X *= general_.genMultX;
     p.Y *= general_.genMultY;
     p.Z *= general_.genMultZ;
-    Rot(p.X, p.Y, general_.genSpinZ, o.X, o.Y);
-    Rot(p.X, p.Z, general_.genTurnY, o.X, o.Z);
-    Rot(p.Z, p.Y, general_.genRotateX, o.Z, o.Y);
+    RotAll(p, generalTurns_, o);
     p.X += general_.genMoveX;
     p.Y += general_.genMoveY;
     p.Z += general_.genMoveZ;
@@ -73,6 +72,7 @@ class Ring {
   const ProfileHeader& general_;
   ProfilePointRec& profilePoint_;
   int layer_;
+  Turns generalTurns_;
   Radii radii_;
   double counter_ = 0;
   double rise_ = 0;

@@ -10,18 +10,24 @@
 #include "controls/rich_text_box.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
-#include "windows/edit_by_face.h"
-#include "windows/form14.h"
-#include "windows/form31.h"
-#include "windows/form36.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
-#include "windows/formulas.h"
+#include "windows/editbyface_face_info.h"
+#include "windows/form14_obj_files.h"
+#include "windows/form31_project_files.h"
+#include "windows/form36_view.h"
+#include "windows/form51_view_options.h"
+#include "windows/form55_extrude_profile.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/formulas2frm_profile_formulas.h"
+#include "windows/formulas3frm_edit_profile_ranges.h"
+#include "windows/formulas_edit_profile.h"
+#include "windows/freeface_free_faces.h"
 #include "windows/frm_about.h"
 #include "windows/frm_splash.h"
+#include "windows/frmsaveprof_profile_files.h"
 #include "windows/help_me.h"
 #include "windows/mdi_form1.h"
-#include "windows/revolve_prof.h"
+#include "windows/revolveprof_revolve_profile.h"
+#include "windows/specialeffects1_special_effects.h"
 
 namespace pelorium {
 
@@ -93,8 +99,14 @@ App::App(Platform& platformToUse, const std::filesystem::path& path)
       form51(Add<Form51>()),
       form5(Add<Form5>()),
       formulas(Add<Formulas>()),
+      formulas2frm(Add<Formulas2Frm>()),
+      formulas3frm(Add<Formulas3Frm>()),
+      frmsaveprof(Add<FrmSaveProf>()),
       editbyface(Add<EditByFace>()),
       revolveprof(Add<RevolveProf>()),
+      form55(Add<Form55>()),
+      freeface(Add<FreeFace>()),
+      specialeffects1(Add<SpecialEffects1>()),
       form31(Add<Form31>()),
       form14(Add<Form14>()),
       helpme(Add<HelpMe>()),

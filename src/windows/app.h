@@ -22,12 +22,18 @@ class Form31;
 class Form36;
 class Form5;
 class Form51;
+class Form55;
 class Formulas;
+class Formulas2Frm;
+class Formulas3Frm;
+class FreeFace;
 class FrmAbout;
+class FrmSaveProf;
 class FrmSplash;
 class HelpMe;
 class MDIForm1;
 class RevolveProf;
+class SpecialEffects1;
 
 // The pose of the shaded picture: turns in degrees and moves, as the GL matrix takes them.
 struct ShadedPose {
@@ -85,8 +91,14 @@ class App {
   Form51& form51;
   Form5& form5;
   Formulas& formulas;
+  Formulas2Frm& formulas2frm;
+  Formulas3Frm& formulas3frm;
+  FrmSaveProf& frmsaveprof;
   EditByFace& editbyface;
   RevolveProf& revolveprof;
+  Form55& form55;
+  FreeFace& freeface;
+  SpecialEffects1& specialeffects1;
   Form31& form31;
   Form14& form14;
   HelpMe& helpme;

@@ -5,11 +5,14 @@
 #include <string>
 
 #include "windows/app.h"
-#include "windows/form31.h"
-#include "windows/form36.h"
+#include "windows/form31_project_files.h"
+#include "windows/form36_view.h"
+#include "windows/freeface_free_faces.h"
 #include "windows/mdi_form1.h"
 #include "windows/quick_save.h"
-#include "windows/revolve_prof.h"
+#include "windows/revolveprof_revolve_profile.h"
+#include "windows/shared_parameters.h"
+#include "windows/weld_seam.h"
 
 namespace pelorium {
 
@@ -31,6 +34,10 @@ void RevolveAndJoin(App& app) {
   RevolvePlainly(app);
   app.revolveprof.Command18.Press();
 }
+
+void ImportCurrentProfile(App& app) { app.freeface.ImportProfiles(CurrentProfile(app), CurrentProfile(app)); }
+
+void ImportAllProfiles(App& app) { app.freeface.Command13.Press(); }
 
 // "Form31.Command15" as window and control.
 Control* FindControl(const App& app, std::string_view place) {
@@ -102,8 +109,8 @@ const std::vector<MenuCommand>& MenuCommands() {
       {"creatit", "Extrude Profile", "extrudeme", Edit, "Form55"},
       {"creatit", "Create Mesh", "triangleobj", EditAndOn, "specialeffects6", nullptr, "Form51.Option3"},
       {"creatit", "Create/Edit Materials", "mterials", Edit, "material"},
-      {"creatit", "Profile import-Currently chosen", "importprofiles", Run},
-      {"creatit", "Profile Import (all)", "profimportmeall", Run},
+      {"creatit", "Profile import-Currently chosen", "importprofiles", Run, "", ImportCurrentProfile},
+      {"creatit", "Profile Import (all)", "profimportmeall", Run, "", ImportAllProfiles},
 
       {"", "Edit Geometry |", "editit"},
       {"editit", "Edit ", "special5", Edit, "specialeffects5"},
@@ -113,7 +120,7 @@ const std::vector<MenuCommand>& MenuCommands() {
       {"editit", "All points on", "ptson", Run},
       {"editit", "All pts off", "ptsoff", Run},
       {"editit", "Invert pts", "invertpts", Run},
-      {"editit", "Join faces/points", "joinitall", Run},
+      {"editit", "Join faces/points", "joinitall", Run, "", JoinClosePoints},
       {"editit", "Delete turned off Faces/points", "eraseoff", Run},
       {"editit", "Subdivide (tri)", "subdivideme", Run},
       {"editit", "Combine all to Part#", "combineallme", Run},

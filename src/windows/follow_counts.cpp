@@ -6,14 +6,16 @@
 #include "base/numbers.h"
 #include "core/part_operations.h"
 #include "windows/app.h"
-#include "windows/edit_by_face.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
+#include "windows/editbyface_face_info.h"
+#include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {
 
 namespace {
+
+constexpr int kMostPointsPerLayer = 120;
 
 // A value above the new limit goes to `fallback` in one step, before the limit can pull it.
 void FollowMax(ScrollBar& bar, int max, int fallback) {
@@ -26,7 +28,7 @@ void FollowMax(ScrollBar& bar, int max, int fallback) {
 void FollowCounts(App& app) {
   const HoldAutomaticActions hold(app);
   const PartHeader& part = app.model.Part(CurrentPart(app));
-  const int faces = part.maxfaces, points = part.maxpoints;
+  const int faces = std::max<int>(0, part.maxfaces), points = part.maxpoints;  // a count may stand at -1
 
   app.form51.HScroll7.SetMax(std::max(1, faces));
   app.form51.HScroll7.SetValue(1);
@@ -43,6 +45,14 @@ void FollowSections(App& app) {
   ScrollBar& pointsPerLayer = app.form5.HScroll5;
   const int ring = std::max(pointsPerLayer.min(), app.model.Part(CurrentPart(app)).Sections + 1);
   pointsPerLayer.SetValueWidening(ring);
+}
+
+void FollowGenerated(App& app) {
+  FollowCounts(app);
+  app.form5.HScroll20.SetValue(1);
+  ScrollBar& pointsPerLayer = app.form5.HScroll5;
+  pointsPerLayer.SetMax(std::max(pointsPerLayer.max(), kMostPointsPerLayer));
+  FollowSections(app);
 }
 
 }  // namespace pelorium

@@ -13,4 +13,7 @@ void FollowCounts(App& app);
 // "Pts/ layer" follows the Part's Sections + 1.
 void FollowSections(App& app);
 
+// After a generator: all of it, from the first point on, and "Pts/ layer" opens to the widest ring.
+void FollowGenerated(App& app);
+
 }  // namespace pelorium

@@ -5,9 +5,9 @@
 #include "core/project_file.h"
 #include "windows/app.h"
 #include "windows/follow_counts.h"
-#include "windows/form51.h"
+#include "windows/form51_view_options.h"
 #include "windows/refresh_views.h"
-#include "windows/revolve_prof.h"
+#include "windows/revolveprof_revolve_profile.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {

@@ -8,10 +8,10 @@
 #include "core/part_operations.h"
 #include "views/draw_views.h"
 #include "windows/app.h"
-#include "windows/edit_by_face.h"
-#include "windows/form36.h"
-#include "windows/form51.h"
-#include "windows/formulas.h"
+#include "windows/editbyface_face_info.h"
+#include "windows/form36_view.h"
+#include "windows/form51_view_options.h"
+#include "windows/formulas_edit_profile.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {

@@ -2,8 +2,8 @@
 #include "windows/shared_parameters.h"
 
 #include "windows/app.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
+#include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
 
 namespace pelorium {
 

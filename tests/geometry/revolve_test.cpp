@@ -136,10 +136,10 @@ TEST(RevolveRows, AreHeldByLimitAndCutOffs) {
 
 TEST(Rot, ReflectsAtZeroAndTurnsBack) {
   double a = 3, b = 5;
-  Rot(a, b, 0, 1, 1);
+  Rot(a, b, Turn::By(0), 1, 1);
   EXPECT_EQ(a, 3);
   EXPECT_EQ(b, -3);
-  Rot(a, b, 90, 1, 1);
+  Rot(a, b, Turn::By(90), 1, 1);
   EXPECT_NEAR(a, -3, 1e-6);
   EXPECT_NEAR(b, 3, 1e-6);
 }

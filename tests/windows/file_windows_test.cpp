@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "app_fixture.h"
-#include "windows/form14.h"
-#include "windows/form31.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
-#include "windows/revolve_prof.h"
+#include "windows/form14_obj_files.h"
+#include "windows/form31_project_files.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/form51_view_options.h"
+#include "windows/revolveprof_revolve_profile.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {

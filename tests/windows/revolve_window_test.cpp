@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "app_fixture.h"
-#include "windows/form36.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
-#include "windows/revolve_prof.h"
+#include "windows/form36_view.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/form51_view_options.h"
+#include "windows/revolveprof_revolve_profile.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {

@@ -3,9 +3,9 @@
 
 #include "app_fixture.h"
 #include "windows/command_table.h"
-#include "windows/form36.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
+#include "windows/form36_view.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/form51_view_options.h"
 #include "windows/mdi_form1.h"
 
 namespace pelorium {
@@ -48,14 +48,14 @@ TEST_F(Start, EachRunBeginsWithTheSameColours) {
 }
 
 TEST_F(Start, ItemsWithoutTheirWindowAreDisabled) {
-  for (const char* name : {"extrudeme", "mterials", "rev1", "opentex", "copypart", "erase"}) {
+  for (const char* name : {"triangleobj", "mterials", "rev1", "opentex", "copypart", "erase"}) {
     EXPECT_FALSE(app.mdiForm1.Find(name)->enabled()) << name;
   }
   for (const char* name :
-       {"rev", "formulait", "openproj", "memsave", "joinit", "exiter", "aboutit", "estarea"}) {
+       {"rev", "extrudeme", "importprofiles", "formulait", "openproj", "memsave", "joinit", "exiter", "aboutit", "estarea"}) {
     EXPECT_TRUE(app.mdiForm1.Find(name)->enabled()) << name;
   }
-  EXPECT_FALSE(app.Deliver({"MDIForm1", "extrudeme"}));
+  EXPECT_FALSE(app.Deliver({"MDIForm1", "triangleobj"}));
 }
 
 TEST_F(Start, EveryMenuItemHasItsHeadAndEveryButtonItsItem) {

@@ -3,10 +3,10 @@
 
 #include "app_fixture.h"
 #include "windows/follow_counts.h"
-#include "windows/form36.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
-#include "windows/formulas.h"
+#include "windows/form36_view.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/form51_view_options.h"
+#include "windows/formulas_edit_profile.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
 
@@ -32,15 +32,15 @@ TEST_F(ViewWindow, ClicksDrawTheProfile) {
 
 TEST_F(ViewWindow, SubViewsDrawInTheirPlane) {
   app.formulas.HScroll28.SetValue(44);
-  app.formulas.Option6.SetValue(true);
+  app.formulas.view.Option6.SetValue(true);
   ClickAt(328, -298);
   EXPECT_EQ(app.model.ProfilePts(0, 0).X, 44);
   EXPECT_EQ(app.model.ProfilePts(0, 0).Y, 20);
   EXPECT_EQ(app.model.ProfilePts(0, 0).Z, 10);
-  app.formulas.Option7.SetValue(true);
+  app.formulas.view.Option7.SetValue(true);
   ClickAt(328, -298);
   EXPECT_EQ(app.model.Profile(0).count, 1);  // nothing is drawn in the oblique view
-  app.formulas.Option4.SetValue(true);
+  app.formulas.view.Option4.SetValue(true);
   app.form51.Check8.SetValue(false);
   ClickAt(328, -298);
   EXPECT_EQ(app.model.Profile(0).count, 1);

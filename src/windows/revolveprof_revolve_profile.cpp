@@ -1,5 +1,5 @@
 // "Revolve Profile".
-#include "windows/revolve_prof.h"
+#include "windows/revolveprof_revolve_profile.h"
 
 #include <algorithm>
 
@@ -9,10 +9,13 @@
 #include "geometry/sections_to_profiles.h"
 #include "windows/app.h"
 #include "windows/follow_counts.h"
-#include "windows/form5.h"
-#include "windows/form51.h"
+#include "windows/form51_view_options.h"
+#include "windows/form55_extrude_profile.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/freeface_free_faces.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
+#include "windows/weld_seam.h"
 
 namespace pelorium {
 
@@ -32,8 +35,6 @@ RevolveProf::RevolveProf(App& app) : Window(app.host, "revolveprof", "Revolve Pr
   HScroll10.onChange = [this] { HScroll10_Change(); };
   Command15.onClick = [this](const Click&) { Command15_Click(); };
   Command18.onClick = [this](const Click&) { Command18_Click(); };
-  // Caps and the weld are pressed in windows that are still to come.
-  for (CheckBox* later : {&Check2, &Check6, &Check7, &Check9, &Check10}) later->SetEnabled(false);
   SetLayout(DeclareLayout());
 }
 
@@ -71,7 +72,8 @@ void RevolveProf::BindParameters() {
   }
   Pair(HScroll10, Text8);
   HScroll22.onChange = [this] { AutoRevolve(); };
-  for (CheckBox* tick : {&Check14, &Check4, &Check1, &Check8, &Check5}) {
+  for (CheckBox* tick :
+       {&Check14, &Check4, &Check2, &Check1, &Check8, &Check6, &Check7, &Check9, &Check10, &Check5}) {
     tick->onClick = [this](const Click&) { AutoRevolve(); };
   }
 }
@@ -89,15 +91,20 @@ void RevolveProf::BindGeneralFields() {
     Pair(*f.bar, *f.box, f.divisor);
     f.bar->onChange = [this, f] {
       app_.model.Profile(CurrentProfile(app_)).*f.field = f.bar->Shown();
+      app_.form55.ShowProfile();
       AutoRevolve();
     };
   }
 }
 
 void RevolveProf::ShowProfile() {
+  ShowGeneralFields();
+  HScroll22.movedByPerson = false;
+}
+
+void RevolveProf::ShowGeneralFields() {
   const ProfileHeader& profile = app_.model.Profile(CurrentProfile(app_));
   for (const GeneralField& f : generalFields_) f.bar->Show(profile.*f.field);
-  HScroll22.movedByPerson = false;
 }
 
 void RevolveProf::ResetEffects() {
@@ -126,6 +133,8 @@ void RevolveProf::HScroll10_Change() {
     Text9.SetText(GeneralForm(360.0 / sections));
     app_.model.Profile(CurrentProfile(app_)).sectionCount = sections;
     app_.model.Part(CurrentPart(app_)).Sections = sections;
+    app_.freeface.HScroll2.SetValue(sections - 1);
+    app_.freeface.HScroll11.SetValue(sections + 1);
     HScroll11.SetMax(std::max(HScroll11.max(), kMostSections));
     HScroll11.SetValue(sections);
     OpenPointsPerLayer();
@@ -200,9 +209,28 @@ void RevolveProf::BuildGridFaces(int width, int rows) {
   RefreshViews(app_);
 }
 
+void RevolveProf::PressCaps() {
+  struct Cap {
+    const CheckBox& tick;
+    PushButton& button;
+  };
+  FreeFace& faces = app_.freeface;
+  for (const Cap& cap : std::initializer_list<Cap>{{Check6, faces.Command4},
+                                                   {Check7, faces.Command5},
+                                                   {Check9, faces.Command7},
+                                                   {Check10, faces.Command6}}) {
+    if (cap.tick.value()) cap.button.Press();
+  }
+}
+
 void RevolveProf::FinishEnds(const RevolveSettings& settings) {
+  PressCaps();
   for (const CheckBox* tick : {&Check8, &Check1}) {
     if (tick->value()) Command18.Press();
+  }
+  if (Check2.value()) {
+    WeldSeam(app_);
+    OpenPointsPerLayer();
   }
   if (Check5.value()) {
     ProfilesFromSections(app_.model, settings.part, RingWidth(settings), MeshedRows(settings),

@@ -20,6 +20,7 @@ class RevolveProf : public Window {
 
   // The general fields show the current profile's values; nothing is written.
   void ShowProfile();
+  void ShowGeneralFields();
 
   // Petals, spiral and corkscrew back to none, as the plain revolve of the menu wants it.
   void ResetEffects();
@@ -151,6 +152,7 @@ class RevolveProf : public Window {
   void Command18_Click();
   void PrepareHeaders(int profile, int part);
   RevolveSettings ReadSettings() const;
+  void PressCaps();
   void FinishEnds(const RevolveSettings& settings);
   LayoutItem DeclareLayout();
 

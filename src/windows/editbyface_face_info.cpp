@@ -1,5 +1,5 @@
 // "Face Info/Edit".
-#include "windows/edit_by_face.h"
+#include "windows/editbyface_face_info.h"
 
 #include <algorithm>
 #include <string>

@@ -1,9 +1,9 @@
 // "Precise Edit".
-#include "windows/form5.h"
+#include "windows/form5_precise_edit.h"
 
 #include "core/model_store.h"
 #include "windows/app.h"
-#include "windows/form51.h"
+#include "windows/form51_view_options.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
 
@@ -38,6 +38,7 @@ Form5::Form5(App& app) : Window(app.host, "Form5", "Precise Edit"), app_(app) {
       Row({Frame("Flip", {Flow({&Option3, &Option2, &Option1})}),
            Frame("Set equal", {Flow({&Option4, &Option5, &Option6})})}),
       Single(Check2),
+      Single(Label1),
   }));
 }
 

@@ -17,6 +17,9 @@ class App;
 
 inline constexpr int kViewWidth = 964, kViewHeight = 637;  // pixels of the view when no screen says otherwise
 
+// Pixels of the image that gray levels are read from.
+inline constexpr int kImageWidth = 968, kImageHeight = 670;
+
 class Form36 : public Window {
  public:
   explicit Form36(App& app);
@@ -34,6 +37,8 @@ class Form36 : public Window {
   void DisarmModes();
 
   PictureBox Picture1{*this, "Picture1", kViewWidth, kViewHeight};
+  // Holds an image whose gray levels shape profiles and Parts. It has no place of its own in the window.
+  PictureBox Picture2{*this, "Picture2", kImageWidth, kImageHeight};
   ScrollBar HScroll1{*this, "HScroll1", {-4000, 4000, 0, 10, 100}, "pan X"};
   ScrollBar VScroll1{*this, "VScroll1", {-4000, 4000, 0, 10, 100}, "pan Y"};
   Label Label54{*this, "Label54", ""};

@@ -1,5 +1,5 @@
 // "View Options".
-#include "windows/form51.h"
+#include "windows/form51_view_options.h"
 
 #include <string>
 
@@ -7,11 +7,14 @@
 #include "core/part_operations.h"
 #include "windows/app.h"
 #include "windows/follow_counts.h"
-#include "windows/form36.h"
-#include "windows/form5.h"
-#include "windows/formulas.h"
+#include "windows/form36_view.h"
+#include "windows/form55_extrude_profile.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/formulas2frm_profile_formulas.h"
+#include "windows/formulas3frm_edit_profile_ranges.h"
+#include "windows/formulas_edit_profile.h"
 #include "windows/refresh_views.h"
-#include "windows/revolve_prof.h"
+#include "windows/revolveprof_revolve_profile.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {
@@ -100,6 +103,10 @@ void Form51::ShowProfileCount() {
 
 void Form51::ShowProfile() {
   ShowProfileCount();
+  app_.formulas.ShowProfile();
+  app_.formulas2frm.ShowProfile();
+  app_.formulas3frm.ShowProfile();
+  app_.form55.ShowProfile();
   app_.revolveprof.ShowProfile();
 }
 
@@ -110,6 +117,8 @@ void Form51::HScroll4_Change() {
     app_.form5.HScroll20.SetValue(1);
     FollowSections(app_);
     app_.form5.HScroll11.SetValue(HScroll4.value());
+    app_.form55.ShowPart();
+    app_.formulas3frm.ShowPart();
   });
   RefreshViews(app_);
 }

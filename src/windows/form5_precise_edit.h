@@ -46,6 +46,7 @@ class Form5 : public Window {
   OptionButton Option4{*this, "Option4", "X=Y", "pair", true, "axes that are set equal"};
   OptionButton Option5{*this, "Option5", "X=Z", "pair", false, "axes that are set equal"};
   OptionButton Option6{*this, "Option6", "Y=Z", "pair", false, "axes that are set equal"};
+  Label Label1{*this, "Label1", "", "counts of the Part after its last new faces"};
 
  private:
   void HScroll11_Change();

@@ -1,5 +1,5 @@
 // "Save /Open Project ".
-#include "windows/form31.h"
+#include "windows/form31_project_files.h"
 
 #include "base/numbers.h"
 #include "core/model_store.h"
@@ -10,7 +10,7 @@
 #include "windows/app.h"
 #include "windows/file_names.h"
 #include "windows/follow_counts.h"
-#include "windows/form51.h"
+#include "windows/form51_view_options.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
 

@@ -1,5 +1,5 @@
 // The "View and edit window".
-#include "windows/form36.h"
+#include "windows/form36_view.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +9,8 @@
 #include "views/zoom.h"
 #include "windows/app.h"
 #include "windows/command_table.h"
-#include "windows/form51.h"
-#include "windows/formulas.h"
+#include "windows/form51_view_options.h"
+#include "windows/formulas_edit_profile.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
 
@@ -43,6 +43,8 @@ Form36::Form36(App& app) : Window(app.host, "Form36", "View and edit window"), a
   Picture1.onResize = [this](int width, int height) { Picture1_Resize(width, height); };
   Picture1.onKey = [this](char character) { Picture1_KeyPress(character); };
   Picture1.picture.SetScale(15, -15);
+  Picture2.picture.backColour = Rgb(0, 0, 0);
+  Picture2.picture.Clear();
   for (ScrollBar* pan : {&HScroll1, &VScroll1}) pan->onChange = [this] { RefreshViews(app_); };
   Command12.onClick = [this](const Click& click) { ZoomByButton(click); };
   Home.onClick = [this](const Click&) { ResetView(); };

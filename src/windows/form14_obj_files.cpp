@@ -1,5 +1,5 @@
 // "Import/Export Obj  (.obj)".
-#include "windows/form14.h"
+#include "windows/form14_obj_files.h"
 
 #include "base/files.h"
 #include "interchange/material_file.h"

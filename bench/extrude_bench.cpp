@@ -1,0 +1,77 @@
+// One Auto Extrude event at the tables' limits, and its points alone.
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+
+#include "geometry/extrude.h"
+#include "platform/headless_platform.h"
+#include "windows/app.h"
+#include "windows/form36_view.h"
+#include "windows/form51_view_options.h"
+#include "windows/form55_extrude_profile.h"
+
+namespace pelorium {
+namespace {
+
+constexpr int kEffector = 7;
+
+// A ring of 36 points and 37 layers, all bent, with every effector on.
+void PrepareProfile(ModelStore& model, int profile) {
+  ProfileHeader& header = model.Profile(profile);
+  header.count = kMaxLayer;
+  header.layerCount = kMaxLayer;
+  header.genRotateX = 10, header.genTurnY = 20, header.genSpinZ = 30;
+  header.genMoveX = 5;
+  for (auto picker :
+       {&ProfileHeader::originPathProfile, &ProfileHeader::pathProfileX, &ProfileHeader::pathProfileY,
+        &ProfileHeader::pathProfileZ, &ProfileHeader::addProfile1X, &ProfileHeader::addProfile1Y,
+        &ProfileHeader::addProfile1Z, &ProfileHeader::addProfile2X, &ProfileHeader::addProfile2Y,
+        &ProfileHeader::addProfile2Z}) {
+    header.*picker = kEffector;
+  }
+  for (int i = 0; i <= kMaxLayer; ++i) {
+    ProfilePointRec& point = model.ProfilePts(i, profile);
+    point.X = 100 * std::cos(i * 0.17), point.Z = 100 * std::sin(i * 0.17);
+    point.spinZ = i, point.turnY = 2 * i, point.rotateX = 3 * i;
+    point.secSpinZ = i, point.secTurnY = i, point.secRotateX = i;
+    point.multX = 1.01, point.multZ = 0.99, point.moveX = i, point.secMoveY = i;
+    point.addXAmt1 = point.addYAmt1 = point.addZAmt1 = 1;
+    point.addXAmt2 = point.addYAmt2 = point.addZAmt2 = 0.5;
+    ProfilePointRec& effector = model.ProfilePts(i, kEffector);
+    effector.X = i, effector.Y = -i, effector.Z = 2 * i;
+  }
+}
+
+void ExtrudedPoints(benchmark::State& state) {
+  ModelStore model;
+  PrepareProfile(model, 0);
+  ExtrudeSettings settings;
+  settings.lastSection = kMaxLayer;
+  for (auto _ : state) benchmark::DoNotOptimize(LayExtrudedPoints(model, settings));
+}
+BENCHMARK(ExtrudedPoints)->Unit(benchmark::kMillisecond);
+
+// A bar of the window is moved; event to pixels.
+void AutoExtrudeEvent(benchmark::State& state) {
+  HeadlessPlatform platform;
+  App app(platform, ".");
+  app.Start();
+  PrepareProfile(app.model, 0);
+  app.form51.ShowProfile();
+  app.form51.Option4.SetValue(true);
+  app.form55.Check1.SetValue(true);
+  UserEvent drag;
+  drag.window = "Form55";
+  drag.control = "HScroll23";
+  drag.action = UserAction::Drag;
+  for (auto _ : state) {
+    drag.value = drag.value < 50 ? drag.value + 1 : 10;
+    app.Deliver(drag);
+    benchmark::DoNotOptimize(app.form36.Picture1.picture.Pixels().data());
+  }
+  state.counters["faces"] = app.model.Part(0).maxfaces;
+}
+BENCHMARK(AutoExtrudeEvent)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace pelorium

@@ -1,0 +1,259 @@
+// "freeface".
+#include "windows/freeface_free_faces.h"
+
+#include <algorithm>
+#include <string>
+
+#include "base/numbers.h"
+#include "geometry/profiles_import.h"
+#include "windows/app.h"
+#include "windows/editbyface_face_info.h"
+#include "windows/follow_counts.h"
+#include "windows/form36_view.h"
+#include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/refresh_views.h"
+#include "windows/revolveprof_revolve_profile.h"
+#include "windows/shared_parameters.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr int kFewestFaces = -1;  // one step below none
+
+int Held(const TextBox& box, int low, int high) {
+  return ToInteger<int>(std::clamp<double>(box.Number(), low, high));
+}
+
+// Stores what a person typed or picked, even when the bar stands there already.
+void StoreTyped(ScrollBar& bar, double number) {
+  const int before = bar.value();
+  bar.Drag(number);
+  if (bar.value() == before) bar.onChange();
+}
+
+}  // namespace
+
+FreeFace::FreeFace(App& app) : Window(app.host, "freeface", "freeface"), app_(app) {
+  BindParameters();
+  BindCreation();
+  BindCounts();
+  BindRouting();
+  SetLayout(DeclareLayout());
+}
+
+void FreeFace::BindParameters() {
+  for (auto [bar, box] : {std::pair{&HScroll1, &Text1},
+                          {&HScroll2, &Text2},
+                          {&HScroll3, &Text3},
+                          {&HScroll11, &Text14},
+                          {&HScroll4, &Text4},
+                          {&HScroll5, &Text5},
+                          {&HScroll6, &Text6},
+                          {&HScroll8, &Text8},
+                          {&HScroll7, &Text7},
+                          {&HScroll9, &Text9},
+                          {&HScroll10, &Text10},
+                          {&HScroll14, &Text20},
+                          {&HScroll12, &Text15}}) {
+    Pair(*bar, *box);
+  }
+  Mirror(HScroll13, Text19);
+  Mirror(HScroll15, Text21);
+  for (ScrollBar* bar : {&HScroll3, &HScroll11}) {
+    bar->onChange = [this] { HScroll1.SetValue(HScroll3.value() * HScroll11.value() + 1); };
+  }
+}
+
+void FreeFace::BindCreation() {
+  struct Creation {
+    PushButton& button;
+    void (*append)(ModelStore&, const FreeFaceSettings&);
+  };
+  for (const Creation& c : std::initializer_list<Creation>{{Command1, AppendEndCap},
+                                                           {Command4, AppendBottomCap},
+                                                           {Command5, AppendTopCap},
+                                                           {Command6, AppendStartSideCap},
+                                                           {Command7, AppendEndSideCap},
+                                                           {Command8, AppendSideCap},
+                                                           {Command9, AppendSidePiece},
+                                                           {Command11, AppendRadiating},
+                                                           {Command14, AppendDisjoined},
+                                                           {Command15, AppendStrip}}) {
+    c.button.onClick = [this, c](const Click&) {
+      Trapped(app_.faults, c.button.FullName(), [&] {
+        c.append(app_.model, ReadSettings());
+        FinishAppending();
+      });
+      RefreshViews(app_);
+    };
+  }
+}
+
+void FreeFace::BindCounts() {
+  for (auto [button, step] : {std::pair{&Command2, 1}, {&Command3, -1}}) {
+    button->onClick = [this, button, step](const Click&) {
+      ChangeFaceCount(*button, app_.model.Part(CurrentPart(app_)).maxfaces + step);
+    };
+  }
+  Command12.onClick = [this](const Click&) { ChangeFaceCount(Command12, Held(Text21, 0, kMaxFaces)); };
+  Command13.onClick = [this](const Click&) { ImportProfiles(0, kMaxProfile); };
+}
+
+void FreeFace::BindRouting() {
+  struct Corner {
+    ScrollBar& bar;
+    TextBox& box;
+    std::int32_t FaceRec::*point;
+  };
+  for (const Corner& c : std::initializer_list<Corner>{{HScroll16, Text11, &FaceRec::corner1pt},
+                                                       {HScroll17, Text12, &FaceRec::corner2pt},
+                                                       {HScroll18, Text13, &FaceRec::corner3pt}}) {
+    Mirror(c.bar, c.box);
+    c.bar.onChange = [this, c] { StoreCorner(c.bar, c.point); };
+    c.box.onKeyUp = [c] { StoreTyped(c.bar, c.box.Number()); };
+    c.box.onDoubleClick = [this, c] {
+      const double picked = Val(app_.form36.Label16.caption());
+      if (picked > 0) StoreTyped(c.bar, picked);
+    };
+  }
+  Mirror(HScroll19, Text17);
+  HScroll19.onChange = [this] { StoreOnOff(); };
+  Text17.onKeyUp = [this] { StoreTyped(HScroll19, Text17.Number()); };
+  HScroll12.onChange = [this] { HScroll12_Change(); };
+  Command10.onClick = [this](const Click&) { Command10_Click(); };
+}
+
+FreeFaceSettings FreeFace::ReadSettings() const {
+  FreeFaceSettings s;
+  s.part = CurrentPart(app_);
+  s.fanStart = HScroll1.value();
+  s.fanFaces = HScroll2.value();
+  s.pointsPerLayer = HScroll11.value();
+  s.capSide = HScroll4.value();
+  s.capFirstLayer = HScroll6.value();
+  s.capLastLayer = HScroll5.value();
+  s.pieceSide = HScroll8.value();
+  s.pieceFirstLayer = HScroll9.value();
+  s.pieceLastLayer = HScroll7.value();
+  s.pieceOffset = HScroll10.value();
+  s.runStart = HScroll13.value();
+  s.radiatingStart = Held(Text19, 1, kMaxPoints);
+  s.runFaces = HScroll14.value();
+  s.stripWidth = Held(Text22, 0, kMaxPoints);
+  s.stripIsClosed = app_.revolveprof.Check4.value();
+  s.bodySections = app_.revolveprof.HScroll10.value();
+  s.bodyWidth = s.bodySections + Held(Text18, -kMaxPoints, kMaxPoints);
+  s.bodyRows = app_.revolveprof.HScroll22.value();
+  return s;
+}
+
+void FreeFace::FinishAppending() {
+  PartHeader& part = app_.model.Part(CurrentPart(app_));
+  const std::string counts =
+      "faces " + std::to_string(part.maxfaces) + " points " + std::to_string(part.maxpoints);
+  app_.form5.Label1.SetCaption(counts);
+  app_.form51.Label3.SetCaption(counts);
+  part.minfaces = 1;
+  FollowFaceCount();
+}
+
+// The choices of faces open to the last one, and the wire takes the new corners.
+void FreeFace::FollowFaceCount() {
+  const HoldAutomaticActions hold(app_);
+  const PartHeader& part = app_.model.Part(CurrentPart(app_));
+  const int faces = std::max<int>(0, part.maxfaces);
+  app_.form51.HScroll7.SetMax(std::max(1, faces));
+  app_.form51.HScroll5.SetMax(faces);
+  app_.form51.HScroll5.SetValue(faces);
+  app_.editbyface.FollowCounts(part.maxpoints, faces);
+  Text16.SetText(std::to_string(part.maxfaces));
+  SyncFaceCorners(app_);
+}
+
+void FreeFace::ChangeFaceCount(const Control& button, int count) {
+  Trapped(app_.faults, button.FullName(), [&] {
+    app_.model.Part(CurrentPart(app_)).maxfaces =
+        Narrow<std::int16_t>(std::clamp(count, kFewestFaces, kMaxFaces));
+    FollowFaceCount();
+  });
+  RefreshViews(app_);
+}
+
+void FreeFace::ImportProfiles(int first, int last) {
+  Trapped(app_.faults, Command13.FullName(), [&] {
+    ImportProfilePoints(app_.model, CurrentPart(app_), first, last);
+    FollowCounts(app_);
+    app_.form5.HScroll20.SetValue(1);
+    SyncFaceCorners(app_);
+  });
+  RefreshViews(app_);
+}
+
+FaceRec& FreeFace::RoutedFace() { return app_.model.Faces(CurrentPart(app_), HScroll12.value()); }
+
+void FreeFace::StoreCorner(const ScrollBar& bar, std::int32_t FaceRec::*corner) {
+  Trapped(app_.faults, bar.FullName(), [&] {
+    RoutedFace().*corner = bar.value();
+    SyncFaceCorners(app_);
+    ScrollBar& chosenPoint = app_.editbyface.VScroll1;  // the views draw it larger
+    chosenPoint.SetValue(chosenPoint.Clamped(bar.value()));
+  });
+  RefreshViews(app_);
+}
+
+void FreeFace::StoreOnOff() {
+  Trapped(app_.faults, HScroll19.FullName(), [this] {
+    RoutedFace().onoff = Narrow<std::int16_t>(HScroll19.value());
+    SyncFaceCorners(app_);
+  });
+  RefreshViews(app_);
+}
+
+void FreeFace::HScroll12_Change() {
+  const FaceRec& face = RoutedFace();
+  HScroll16.Show(face.corner1pt);
+  HScroll17.Show(face.corner2pt);
+  HScroll18.Show(face.corner3pt);
+  HScroll19.Show(face.onoff);
+}
+
+void FreeFace::Command10_Click() {
+  Trapped(app_.faults, "freeface.Command10", [this] {
+    FaceRec& face = RoutedFace();
+    face.corner1pt = Held(Text11, 1, kMaxPoints);
+    face.corner2pt = Held(Text12, 1, kMaxPoints);
+    face.corner3pt = Held(Text13, 1, kMaxPoints);
+    face.onoff = Narrow<std::int16_t>(Held(Text17, 0, 1));
+    PartHeader& part = app_.model.Part(CurrentPart(app_));
+    part.maxfaces = std::max(part.maxfaces, Narrow<std::int16_t>(HScroll12.value()));
+    FinishAppending();
+    HScroll12.SetValue(HScroll12.Clamped(HScroll12.value() + 1));
+  });
+  RefreshViews(app_);
+}
+
+// One narrow column: the picture stays in sight while faces are made.
+LayoutItem FreeFace::DeclareLayout() {
+  return Column({
+      Frame("Endcap", {BarRow(HScroll1, {&Text1}), BarRow(HScroll2, {&Text2}), BarRow(HScroll3, {&Text3}),
+                       BarRow(HScroll11, {&Text14}), Flow({&Command1}), Labelled("Extra pts per row", Text18),
+                       Flow({&Command4, &Command5})}),
+      Frame("Side Cap", {BarRow(HScroll4, {&Text4}), BarRow(HScroll5, {&Text5}), BarRow(HScroll6, {&Text6}),
+                         Flow({&Command8, &Command6, &Command7})}),
+      Frame("Side Piece", {BarRow(HScroll8, {&Text8}), BarRow(HScroll7, {&Text7}), BarRow(HScroll9, {&Text9}),
+                           BarRow(HScroll10, {&Text10}), Flow({&Command9})}),
+      Frame("Create Faces",
+            {BarRow(HScroll13, {&Text19}), BarRow(HScroll14, {&Text20}), Flow({&Command11, &Command14}),
+             Labelled("Pts per row", Text22), Flow({&Command15})}),
+      Frame("Total", {BarRow(HScroll15, {&Text21}), Labelled("Faces", Text16),
+                      Flow({&Command2, &Command3, &Command12, &Command13})}),
+      Frame("Face Routing",
+            {BarRow(HScroll12, {&Text15}), BarRow(HScroll16, {&Text11}), BarRow(HScroll17, {&Text12}),
+             BarRow(HScroll18, {&Text13}), BarRow(HScroll19, {&Text17}), Flow({&Command10})},
+            "Create obj face by selection"),
+  });
+}
+
+}  // namespace pelorium

@@ -1,0 +1,118 @@
+// The formulas window: what a press takes from its controls, and when a formula runs by itself.
+#include <gtest/gtest.h>
+
+#include "app_fixture.h"
+#include "controls/scroll_bar.h"
+#include "controls/text_box.h"
+#include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/formulas2frm_profile_formulas.h"
+#include "windows/shared_parameters.h"
+
+namespace pelorium {
+namespace {
+
+class FormulasWindow : public AppTest {
+ protected:
+  ScrollBar& Bar(const char* name) { return dynamic_cast<ScrollBar&>(*window.Find(name)); }
+  TextBox& Box(const char* name) { return dynamic_cast<TextBox&>(*window.Find(name)); }
+  Vec3 Point(int i, int profile = 0) const {
+    const ProfilePointRec& p = app.model.ProfilePts(i, profile);
+    return {p.X, p.Y, p.Z};
+  }
+
+  Formulas2Frm& window = app.formulas2frm;
+};
+
+TEST_F(FormulasWindow, APressFillsTheProfileChosenHere) {
+  window.HScroll25.Drag(3);
+  EXPECT_EQ(CurrentProfile(app), 3);
+  app.form5.Text5.Type("5");
+  app.form5.Text3.Type("7");
+  Bar("HScroll27").Drag(20);
+  window.Command6.Press();
+  EXPECT_EQ(app.model.Profile(3).count, 20);
+  EXPECT_EQ(app.form51.HScroll6.value(), 20);
+  EXPECT_EQ(app.form51.Label17.caption(), "20");
+  EXPECT_NEAR(Point(0, 3).X, 5 + 98.39295886, 1e-3);
+  EXPECT_NEAR(Point(0, 3).Z, 7 + 17.8557, 1e-3);
+  EXPECT_EQ(Point(36, 3).Y, 300);
+  EXPECT_EQ(app.model.Profile(0).count, 0);
+  app.form51.HScroll3.SetValue(8);
+  EXPECT_EQ(window.Text30.text(), "8");
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(FormulasWindow, TheTextIsTheParameterAndWordsCountAsZero) {
+  EXPECT_EQ(Box("Text11").text(), "10.2857142857143");
+  EXPECT_EQ(Box("Text26").text(), ".36");
+  Box("Text26").Type("2.5 and more");
+  Box("Text25").Type("1");
+  window.Command4.Press();
+  EXPECT_EQ(Point(2).Z, 10);  // 2.5 * 4
+  EXPECT_EQ(Bar("HScroll19").value(), 36);
+  Box("Text26").Type("none");
+  window.Command4.Press();
+  EXPECT_EQ(Point(2).Z, 0);
+  Bar("HScroll19").Drag(50);
+  EXPECT_EQ(Box("Text26").text(), "0.5");
+}
+
+TEST_F(FormulasWindow, PlainFormsTakeTheBarsThemselves) {
+  Box("Text20").Type("9.5");
+  Box("Text33").Type("1");
+  window.Command5.Press();
+  EXPECT_EQ(Point(10), (Vec3{36, 300, 100}));
+  window.Text13.Type("2");
+  window.Command3.Press();
+  EXPECT_EQ(Point(3), (Vec3{18, 66, 66}));  // 10 * 3 + 36
+  window.Command15.Press();
+  EXPECT_EQ(Point(2).X, 19);
+}
+
+TEST_F(FormulasWindow, EveryBarButTheProfilesRunsTheChosenFormula) {
+  Bar("HScroll2").Drag(50);
+  EXPECT_EQ(Point(0), Vec3{});  // none is chosen
+  window.Option3.SetValue(true);
+  Box("Text11").Type("0");
+  Bar("HScroll3").Drag(50);
+  EXPECT_EQ(Point(0), (Vec3{50, 300, 0}));
+  window.Option2.SetValue(true);
+  Bar("HScroll8").Drag(21);
+  EXPECT_EQ(Point(1), (Vec3{20, 300, .36 * 4}));
+  window.Option1.SetValue(true);
+  Bar("HScroll28").Drag(7);
+  EXPECT_EQ(Point(1), (Vec3{20, 7, 0}));
+  window.HScroll25.Drag(4);
+  EXPECT_EQ(Point(1, 4), Vec3{});
+}
+
+TEST_F(FormulasWindow, ResetTakesItsFrameBackAndRunsOnce) {
+  window.Option3.SetValue(true);
+  Box("Text11").Type("0");
+  for (const char* name : {"HScroll2", "HScroll3", "HScroll15"}) Bar(name).Drag(9);
+  window.Check2.SetValue(true);
+  const double before = Point(0).X;
+  window.Command9.Press();
+  EXPECT_EQ(Bar("HScroll2").value(), 100);
+  EXPECT_EQ(Box("Text9").text(), "100");
+  EXPECT_EQ(Bar("HScroll15").value(), 9);  // of another frame
+  EXPECT_EQ(Box("Text11").text(), "0");    // of the global settings
+  EXPECT_EQ(Point(0).X, before + 100);
+  Box("Text26").Type("4");
+  window.Command12.Press();
+  EXPECT_EQ(Box("Text26").text(), ".36");
+  window.Command11.Press();
+  EXPECT_EQ(Box("Text22").text(), "50");
+}
+
+TEST_F(FormulasWindow, AFaultEndsTheFormulaQuietly) {
+  Box("Text18").Type("1e200");
+  window.Command4.Press();
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+  EXPECT_EQ(app.automaticActionsHeld, 0);
+  EXPECT_EQ(app.form51.HScroll6.value(), 36);
+}
+
+}  // namespace
+}  // namespace pelorium

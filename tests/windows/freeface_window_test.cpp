@@ -1,0 +1,161 @@
+// The freeface window, Combine, and the menu items that lead to them.
+#include "windows/freeface_free_faces.h"
+
+#include <array>
+
+#include "app_fixture.h"
+#include "base/numbers.h"
+#include "windows/editbyface_face_info.h"
+#include "windows/form36_view.h"
+#include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/revolveprof_revolve_profile.h"
+#include "windows/shared_parameters.h"
+#include "windows/specialeffects1_special_effects.h"
+
+namespace pelorium {
+namespace {
+
+class FreeFaceWindow : public AppTest {
+ protected:
+  PartHeader& Part() { return app.model.Part(0); }
+  std::array<int, 3> Corners(int face) {
+    const FaceRec& f = app.model.Faces(0, face);
+    return {f.corner1pt, f.corner2pt, f.corner3pt};
+  }
+  using Face = std::array<int, 3>;
+
+  FreeFace& window = app.freeface;
+};
+
+TEST_F(FreeFaceWindow, CapsCloseARevolvedBody) {
+  app.revolveprof.HScroll10.Drag(32);
+  MakeCup();  // four rows of 33 points, 197 faces
+  ASSERT_EQ(Part().maxfaces, 197);
+  window.Command4.Press();
+  EXPECT_EQ(Part().maxfaces, 228);
+  EXPECT_EQ(Corners(228), (Face{1, 32, 33}));
+  EXPECT_EQ(app.form5.Label1.caption(), "faces 228 points 166");
+  EXPECT_EQ(app.form51.Label3.caption(), "228faces  points 166");
+  EXPECT_EQ(FaceRangeEnd(app), 228);
+  EXPECT_EQ(app.form51.HScroll7.max(), 228);
+  EXPECT_EQ(app.editbyface.VScroll2.max(), 228);
+  EXPECT_EQ(window.Text16.text(), "228");
+  EXPECT_EQ(app.model.Faces(0, 228).c1X, app.model.Points(0, 1).X);
+  window.Command5.Press();
+  EXPECT_EQ(Corners(229), (Face{100, 101, 102}));
+  window.Command7.Press();
+  EXPECT_EQ(Corners(260), (Face{33, 66, 99}));
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(FreeFaceWindow, RevolvePressesTheTickedCaps) {
+  app.revolveprof.Check6.SetValue(true);
+  app.revolveprof.Check10.SetValue(true);
+  MakeCup();
+  EXPECT_EQ(Part().maxfaces, 221 + 35 + 4);
+  EXPECT_EQ(Corners(257), (Face{1, 38, 75}));
+}
+
+TEST_F(FreeFaceWindow, TheLayerSetsTheStartPoint) {
+  window.HScroll11.Drag(10);
+  window.HScroll3.Drag(4);
+  EXPECT_EQ(window.Text1.text(), "41");
+  window.HScroll2.Drag(1);
+  window.Command1.Press();
+  EXPECT_EQ(Corners(1), (Face{41, 42, 43}));
+}
+
+TEST_F(FreeFaceWindow, FaceCountGoesOneBelowNone) {
+  window.Command3.Press();
+  window.Command3.Press();
+  EXPECT_EQ(Part().maxfaces, -1);
+  EXPECT_EQ(window.Text16.text(), "-1");
+  EXPECT_EQ(FaceRangeEnd(app), 0);
+  window.Command2.Press();
+  EXPECT_EQ(Part().maxfaces, 0);
+  window.Text21.Type("99999");
+  window.Command12.Press();
+  window.Command2.Press();
+  EXPECT_EQ(Part().maxfaces, 7700);
+  EXPECT_EQ(FaceRangeEnd(app), 7700);
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(FreeFaceWindow, ChoosingAFaceShowsItWithoutWriting) {
+  FaceRec& face = app.model.Faces(0, 5);
+  face.corner1pt = 7, face.corner2pt = 8, face.corner3pt = 30000, face.onoff = 0;
+  window.HScroll12.Drag(5);
+  EXPECT_EQ(window.Text11.text(), "7");
+  EXPECT_EQ(window.Text13.text(), "30000");
+  EXPECT_EQ(window.Text17.text(), "0");
+  EXPECT_EQ(Corners(5), (Face{7, 8, 30000}));
+}
+
+TEST_F(FreeFaceWindow, CornersAreStoredOneByOne) {
+  MakeCup();
+  window.HScroll12.Drag(3);
+  const Face before = Corners(3);
+  window.HScroll17.Drag(50);
+  EXPECT_EQ(Corners(3), (Face{before[0], 50, before[2]}));
+  EXPECT_EQ(app.model.Faces(0, 3).c2X, app.model.Points(0, 50).X);
+  EXPECT_EQ(app.editbyface.VScroll1.value(), 50);
+  window.Text13.Type("60");
+  app.form36.Label16.SetCaption("70");
+  window.Text11.DoubleClick();
+  EXPECT_EQ(Corners(3), (Face{70, 50, 60}));
+  app.form36.Label16.SetCaption("0");
+  window.Text12.DoubleClick();
+  EXPECT_EQ(Corners(3), (Face{70, 50, 60}));
+  window.Text17.Type("0");
+  EXPECT_EQ(app.model.Faces(0, 3).onoff, 0);
+}
+
+TEST_F(FreeFaceWindow, CommitStoresAndGoesOn) {
+  window.HScroll12.Drag(4);
+  window.Text11.Type("10");
+  window.Text12.Type("11");
+  window.Text13.Type("12");
+  window.Command10.Press();
+  EXPECT_EQ(Corners(4), (Face{10, 11, 12}));
+  EXPECT_EQ(Part().maxfaces, 4);
+  EXPECT_EQ(window.HScroll12.value(), 5);
+  EXPECT_EQ(window.Text11.text(), "1");
+}
+
+TEST_F(FreeFaceWindow, ProfilesBecomePoints) {
+  app.model.PointMark(0, 3) = app.model.Points(0, 3).onoff = 0;
+  for (int profile : {2, 5}) {
+    app.model.Profile(profile).count = 2;
+    for (int i = 0; i <= 2; ++i) app.model.ProfilePts(i, profile).X = 10 * profile + i;
+  }
+  PressItem("profimportmeall");
+  EXPECT_EQ(Part().maxpoints, 6);
+  EXPECT_EQ(app.model.Points(0, 3).X, 22);
+  EXPECT_EQ(app.model.Points(0, 4).X, 50);
+  EXPECT_EQ(app.model.PointMark(0, 3) + app.model.Points(0, 3).onoff, 2);
+  EXPECT_EQ(PointRangeStart(app), 1);
+  EXPECT_EQ(PointRangeEnd(app), 6);
+  app.form51.HScroll3.SetValue(5);
+  PressItem("importprofiles");
+  EXPECT_EQ(Part().maxpoints, 3);
+  EXPECT_EQ(app.model.Points(0, 1).X, 50);
+}
+
+TEST_F(FreeFaceWindow, JoinMovesPointsTogether) {
+  MakeCup();
+  app.model.Points(0, 2).X = app.model.Points(0, 1).X + 1;
+  app.model.Points(0, 2).Y = app.model.Points(0, 1).Y;
+  app.specialeffects1.HScroll3.Drag(5);
+  EXPECT_EQ(app.specialeffects1.Text15.text(), "5");
+  PressItem("joinitall");
+  EXPECT_EQ(app.specialeffects1.HScroll3.value(), 2);
+  EXPECT_EQ(app.model.Points(0, 2).X, app.model.Points(0, 1).X);
+  EXPECT_EQ(app.model.Faces(0, 1).c2X, app.model.Points(0, 1).X);
+  EXPECT_EQ(app.specialeffects1.ProgressBar1.value(), Part().maxpoints);
+  EXPECT_EQ(Part().maxpoints, 186);
+  EXPECT_GE(Val(app.specialeffects1.Text15.text()), 1);
+}
+
+}  // namespace
+}  // namespace pelorium
