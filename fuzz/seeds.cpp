@@ -6,6 +6,7 @@
 
 #include "base/files.h"
 #include "base/random_series.h"
+#include "core/profile_file.h"
 #include "core/project_file.h"
 
 using namespace pelorium;
@@ -35,6 +36,17 @@ void WriteEmptyItems(TextWriter& out) {
   }
 }
 
+// Both forms of a profile file: what the writer makes, and one with exactly the items that the reader takes.
+void WriteProfileSeeds(const std::filesystem::path& folder, ModelStore& model) {
+  std::filesystem::create_directories(folder);
+  WriteFile(folder / "written.txt", [&](TextWriter& out) { WriteProfiles(model, out); });
+  constexpr int kItemsOfAProfile = 21, kItemsOfAPoint = 26, kProfiles = kMaxProfile + 1;
+  WriteFile(folder / "whole.txt", [](TextWriter& out) {
+    for (int i = 0; i < kProfiles * (kItemsOfAProfile + kProfiles * kItemsOfAPoint); ++i) out.Print(i % 37);
+  });
+  for (const char* name : {"written.txt", "whole.txt"}) ReadProfileFile(model, ReadFile(folder / name));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -50,6 +62,7 @@ int main(int argc, char** argv) {
     ResetModel(model, random);
     AddTetrahedron(model, 1);
     WriteFile(folder / "tetrahedron.prj", [&](TextWriter& out) { WriteProject(model, out); });
+    WriteProfileSeeds(std::filesystem::path(argv[1]) / "profile", model);
     WriteFile(folder / "empty_items.prj", WriteEmptyItems);
     ReadProject(model, ReadFile(folder / "empty_items.prj"));  // a seed that no longer loads is no seed
     return 0;

@@ -16,6 +16,14 @@ constexpr int Red(Colour colour) { return static_cast<int>(colour & 0xFF); }
 constexpr int Green(Colour colour) { return static_cast<int>(colour >> 8 & 0xFF); }
 constexpr int Blue(Colour colour) { return static_cast<int>(colour >> 16 & 0xFF); }
 
+// The gray level of a colour as pictures tell it: the whole part of the mean of its channels; -1 for -1,
+// outside the picture.
+constexpr int GrayLevel(int colour) {
+  if (colour < 0) return -1;
+  const Colour c = static_cast<Colour>(colour);
+  return (Red(c) + Green(c) + Blue(c)) / 3;
+}
+
 // A material's channel (0 to about 1) as a screen channel: floor(value * 255), held in 0..255. A NaN gives 0.
 inline int ScreenChannel(double value) {
   const double scaled = std::floor(value * 255);

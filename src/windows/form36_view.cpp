@@ -23,17 +23,6 @@ constexpr Colour kNextLineColour = Rgb(250, 0, 0);
 
 std::string WholeText(double value) { return GeneralForm(std::floor(value)); }
 
-ProfilePlane PlaneOf(Projection subView) {
-  switch (subView) {
-    case Projection::Top:
-      return ProfilePlane::XY;
-    case Projection::Side:
-      return ProfilePlane::ZY;
-    default:
-      return ProfilePlane::XZ;
-  }
-}
-
 }  // namespace
 
 Form36::Form36(App& app) : Window(app.host, "Form36", "View and edit window"), app_(app) {
@@ -131,7 +120,7 @@ void Form36::Picture1_MouseDown(const MouseEvent& event) {
 
 void Form36::DrawPoint(const MouseEvent& event) {
   ProfileClick click;
-  click.plane = PlaneOf(app_.formulas.SubView());
+  click.plane = app_.formulas.view.Plane();
   click.across = std::floor(event.x) - HScroll1.value();
   click.up = std::floor(event.y) - VScroll1.value();
   click.third = app_.formulas.HScroll28.value();

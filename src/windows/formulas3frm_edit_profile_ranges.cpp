@@ -16,24 +16,16 @@
 
 namespace pelorium {
 
-namespace {
-
-constexpr double kDegreesPerDrag = 1;
-constexpr double kShrink = 0.99, kGrow = 1.01;
-
-int SignOf(float value) { return value < 0 ? -1 : value > 0 ? 1 : 0; }
-
-// What a drag of that sign scales by.
-double DragFactor(int sign) { return sign < 0 ? kShrink : sign > 0 ? kGrow : 1; }
-
-}  // namespace
-
 Formulas3Frm::Formulas3Frm(App& app)
-    : Window(app.host, "Formulas3frm", "More Edit of Profile "), view(*this, app), app_(app) {
+    : Window(app.host, "Formulas3frm", "More Edit of Profile "),
+      view(*this, app),
+      app_(app),
+      drag_(
+          app, Picture1, Option2, Option3,
+          {[this] { return DraggedBlock(); }, [this] { return HScroll4.value(); }, [this] { ShowEdit(); }}) {
   view.Option8.SetCaption("Shaded ");
   BindParameters();
   BindEdits();
-  BindDrag();
   Command7.onClick = [this](const Click&) { Command7_Click(); };
   Command8.onClick = [this](const Click&) { Command8_Click(); };
   SetLayout(DeclareLayout());
@@ -109,17 +101,6 @@ void Formulas3Frm::BindEdits() {
            [this, &model](const ProfileBlock& block, bool) { CopyToBlock(model, block, HScroll25.value()); });
 }
 
-void Formulas3Frm::BindDrag() {
-  Picture1.onMouseDown = [this](const MouseEvent& event) {
-    lastMouse_ = event;
-    dragging_ = true;
-  };
-  Picture1.onMouseMove = [this](const MouseEvent& event) {
-    if (dragging_) Drag(event);
-  };
-  Picture1.onMouseUp = [this](const MouseEvent&) { dragging_ = false; };
-}
-
 ProfileBlock Formulas3Frm::ReadBlock() const {
   return {HScroll12.value(), HScroll13.value(), HScroll23.value(), HScroll24.value(), HScroll9.value()};
 }
@@ -140,25 +121,11 @@ void Formulas3Frm::ShowEdit() {
   RefreshViews(app_);
 }
 
-// The picture's Y counts downwards. With the range's ends crossed, the profile to copy is edited alone.
-void Formulas3Frm::Drag(const MouseEvent& event) {
-  using enum BlockAxis;
-  const float dx = event.x - lastMouse_.x, dy = event.y - lastMouse_.y;
-  const bool right = lastMouse_.button == MouseButton::Right;
-  lastMouse_.x = event.x, lastMouse_.y = event.y;
+// With the range's ends crossed, the profile to copy is dragged alone.
+ProfileBlock Formulas3Frm::DraggedBlock() const {
   ProfileBlock block = ReadBlock();
   if (block.firstProfile > block.lastProfile) block.firstProfile = block.lastProfile = HScroll25.value();
-  ModelStore& model = app_.model;
-  if (Option1.value()) {
-    const double speed = HScroll4.value();
-    if (!right) MoveBlock(model, block, {X}, dx * speed);
-    MoveBlock(model, block, {right ? Z : Y}, -dy * speed);
-  } else if (Option2.value()) {
-    TurnBlock(model, block, X, Z, SignOf(dx) * kDegreesPerDrag, Origin(app_));
-  } else {
-    ScaleBlock(model, block, right ? BlockAxes{Z} : BlockAxes{X, Z}, DragFactor(SignOf(dx)), Origin(app_));
-  }
-  ShowEdit();
+  return block;
 }
 
 void Formulas3Frm::Command7_Click() {

@@ -9,6 +9,7 @@
 #include "core/model_store.h"
 #include "geometry/profiles_to_points.h"
 #include "profiles/edit_profile_range.h"
+#include "windows/profile_drag.h"
 #include "windows/profile_view_options.h"
 
 namespace pelorium {
@@ -77,7 +78,7 @@ class Formulas3Frm : public Window {
                        "drag", false,     "left button scales in X and Z, right button in Z"};
   ScrollBar HScroll4{
       *this, "HScroll4", {1, 36, 1, 1, 5}, "Speed", "units that the range moves for each unit dragged"};
-  PictureBox Picture1{*this, "Picture1", 200, 150, "drag here to edit the range of profiles"};
+  PictureBox Picture1{*this, "Picture1", kDragWidth, kDragHeight, "drag here to edit the range of profiles"};
 
   ScrollBar HScroll14{
       *this, "HScroll14", {0, kUserParts - 1, 0, 1, 1}, "Part#", "the Part that the profiles make"};
@@ -104,13 +105,12 @@ class Formulas3Frm : public Window {
 
   void BindParameters();
   void BindEdits();
-  void BindDrag();
   template <typename Edit>
   void BindEdit(PushButton& button, Edit edit);
   ProfileBlock ReadBlock() const;
+  ProfileBlock DraggedBlock() const;
   ProfileStack ReadStack() const;
   void ShowEdit();
-  void Drag(const MouseEvent& event);
   void Command7_Click();
   void Command8_Click();
   void BuildFaces(const ProfileStack& stack, int pointsBefore);
@@ -118,8 +118,7 @@ class Formulas3Frm : public Window {
   LayoutItem DeclareLayout();
 
   App& app_;
-  MouseEvent lastMouse_;
-  bool dragging_ = false;
+  ProfileDrag drag_;
 };
 
 }  // namespace pelorium

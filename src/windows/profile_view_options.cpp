@@ -33,6 +33,17 @@ Projection ProfileViewOptions::Chosen() const {
   return Projection::Front;
 }
 
+ProfilePlane ProfileViewOptions::Plane() const {
+  switch (Chosen()) {
+    case Projection::Top:
+      return ProfilePlane::XY;
+    case Projection::Side:
+      return ProfilePlane::ZY;
+    default:
+      return ProfilePlane::XZ;
+  }
+}
+
 OptionButton& ProfileViewOptions::Of(Projection projection) {
   switch (projection) {
     case Projection::Top:

@@ -1,0 +1,42 @@
+// Rings and sides as profiles.
+#include "profiles/fetch_profiles.h"
+
+#include <algorithm>
+
+#include "core/profile_from_points.h"
+
+namespace pelorium {
+
+namespace {
+
+void FetchSide(ModelStore& model, const RingGrid& rings, int side, int profile) {
+  const int wanted = std::min(model.Part(rings.part).count + 1, kMaxLayer + 1);
+  const int taken = ProfileFromPoints(model, profile, {rings.part, side, rings.rowLength, wanted});
+  if (taken == 0 || wanted < taken) return;
+  const ProfilePointRec& last = model.ProfilePts(taken - 1, profile);
+  for (int point = taken; point <= std::min(wanted, kMaxLayer); ++point) {
+    ProfilePointRec& to = model.ProfilePts(point, profile);
+    to.X = last.X, to.Y = last.Y, to.Z = last.Z;
+  }
+  model.Profile(profile).count = static_cast<std::int16_t>(std::min(wanted, kMaxLayer));
+}
+
+}  // namespace
+
+void FetchLayer(ModelStore& model, const RingGrid& rings, int layer, int profile) {
+  ProfileFromPoints(model, profile, {rings.part, layer * rings.rowLength + 1, 1, rings.pointsPerRing});
+}
+
+void FetchLayers(ModelStore& model, const RingGrid& rings, int firstLayer, int lastLayer, int firstProfile) {
+  for (int layer = firstLayer, q = firstProfile; layer <= lastLayer && q <= kMaxProfile; ++layer, ++q) {
+    FetchLayer(model, rings, layer, q);
+  }
+}
+
+void FetchSides(ModelStore& model, const RingGrid& rings, int firstSide, int lastSide, int firstProfile) {
+  for (int side = firstSide, q = firstProfile; side <= lastSide && q <= kMaxProfile; ++side, ++q) {
+    FetchSide(model, rings, side, q);
+  }
+}
+
+}  // namespace pelorium

@@ -1,0 +1,131 @@
+// The Edit Profile window.
+#include "app_fixture.h"
+#include "windows/form36_view.h"
+#include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/formulas2frm_profile_formulas.h"
+#include "windows/formulas_edit_profile.h"
+#include "windows/refresh_views.h"
+
+namespace pelorium {
+namespace {
+
+class EditProfileWindow : public AppTest {
+ protected:
+  // Three points to the right of each other, 20 units above the axis.
+  EditProfileWindow() {
+    for (float x : {328.0f, 338.0f, 348.0f}) ClickAt(x, -298);
+  }
+  Vec3 Point(int i, int profile = 0) const {
+    const ProfilePointRec& p = app.model.ProfilePts(i, profile);
+    return {p.X, p.Y, p.Z};
+  }
+  void Drag(float dx, float dy, MouseButton button = MouseButton::Left) {
+    UserEvent event;
+    event.window = "Formulas";
+    event.control = "Picture1";
+    event.click.button = button;
+    event.x = event.y = 50;
+    event.action = UserAction::MouseDown;
+    app.Deliver(event);
+    event.x += dx, event.y += dy;
+    event.action = UserAction::MouseMove;
+    app.Deliver(event);
+    event.action = UserAction::MouseUp;
+    app.Deliver(event);
+    event.action = UserAction::MouseMove;  // no button down: nothing
+    event.x += 7;
+    app.Deliver(event);
+  }
+
+  Formulas& window = app.formulas;
+};
+
+TEST_F(EditProfileWindow, TheChosenPointShowsAndTakesWhatIsTyped) {
+  window.HScroll27.Drag(1);
+  EXPECT_EQ(window.Text35.text(), "20");
+  EXPECT_EQ(window.Text37.text(), "20");
+  window.Text36.Type("3.5x");
+  EXPECT_EQ(Point(1), (Vec3{20, 3.5, 20}));
+  window.HScroll25.Drag(2);
+  EXPECT_EQ(app.form51.HScroll3.value(), 2);
+  EXPECT_EQ(window.HScroll3.value(), 2);
+  EXPECT_EQ(app.formulas2frm.HScroll25.value(), 2);
+  EXPECT_EQ(window.Text35.text(), "0");
+}
+
+TEST_F(EditProfileWindow, JoinEndsPutsThePenOnTheFirstPoint) {
+  window.Command7.Press();
+  EXPECT_EQ(Point(3), Point(0));
+  EXPECT_EQ(window.HScroll27.value(), 3);
+  EXPECT_EQ(window.Text35.text(), "10");
+}
+
+TEST_F(EditProfileWindow, EveryControlFollowsAChangedCount) {
+  window.Command10.Press();
+  EXPECT_EQ(app.form51.HScroll6.value(), 6);
+  EXPECT_EQ(app.form51.Label17.caption(), "6");
+  EXPECT_EQ(window.HScroll27.value(), 6);
+  window.Command17.Press();
+  EXPECT_EQ(app.model.Profile(0).count, 0);
+  EXPECT_EQ(app.form51.HScroll6.value(), 0);
+  EXPECT_EQ(Point(2).X, 30);
+}
+
+TEST_F(EditProfileWindow, DragsMoveTurnAndScale) {
+  window.HScroll24.Drag(1);
+  Drag(3, -4);
+  EXPECT_EQ(Point(0), (Vec3{13, 4, 20}));
+  EXPECT_EQ(Point(2), (Vec3{30, 0, 20}));
+  Drag(3, -4, MouseButton::Right);
+  EXPECT_EQ(Point(0), (Vec3{13, 4, 24}));
+  window.Option3.SetValue(true);
+  Drag(-1, 0);
+  EXPECT_DOUBLE_EQ(Point(0).X, 12.87);
+  EXPECT_DOUBLE_EQ(Point(0).Z, 23.76);
+  Drag(1, 0, MouseButton::Right);
+  EXPECT_DOUBLE_EQ(Point(0).X, 12.87);
+  window.Option2.SetValue(true);
+  app.form5.Text5.Type("12.87");
+  Drag(0, 9);
+  EXPECT_DOUBLE_EQ(Point(0).X, 12.87);
+  Drag(9, 0);  // one degree about X 12.87: X grows by Z * sin
+  EXPECT_NEAR(Point(0).X, 12.87 + 23.9976 * 0.0174524, 1e-4);
+}
+
+TEST_F(EditProfileWindow, RingsOfAPartComeBackAsProfiles) {
+  PressItem("revolve2");
+  window.HScroll18.Drag(1);
+  window.HScroll25.Drag(4);
+  window.Command14.Press();
+  EXPECT_EQ(app.model.Profile(4).count, 36);
+  EXPECT_EQ(Point(9, 4).X, app.model.Points(0, 37 + 10).X);
+  window.HScroll8.Drag(2);
+  window.HScroll12.Drag(6);
+  window.Command9.Press();
+  EXPECT_EQ(app.model.Profile(7).count, 4);
+  EXPECT_EQ(Point(2, 7).Z, app.model.Points(0, 2 * 37 + 2).Z);
+}
+
+TEST_F(EditProfileWindow, GrayLevelsComeFromTheImage) {
+  app.form36.Picture2.picture.backColour = Rgb(100, 100, 100);
+  app.form36.Picture2.picture.Clear();
+  app.model.ProfilePts(0, 0).Y = 10;
+  window.Command15.Press();
+  EXPECT_EQ(Point(0).Z, 25);
+  app.form36.VScroll1.SetValue(10);  // all points above the image
+  window.Text4.Type("1");
+  window.Command15.Press();
+  EXPECT_EQ(Point(0).Z, 25);
+}
+
+TEST_F(EditProfileWindow, OptionsOfAllProfileWindowsGoTogether) {
+  app.form51.Option4.SetValue(true);
+  app.formulas2frm.view.Option6.SetValue(true);
+  EXPECT_TRUE(window.view.Option6.value());
+  EXPECT_TRUE(app.form51.Option1.value());
+  EXPECT_EQ(app.form36.Label54.caption(), " PROFILE VIEW--Side ");
+}
+
+}  // namespace
+}  // namespace pelorium

@@ -1,0 +1,86 @@
+// Saving, opening and reporting on profiles through the window.
+#include <gtest/gtest.h>
+
+#include "app_fixture.h"
+#include "base/files.h"
+#include "windows/form51_view_options.h"
+#include "windows/form55_extrude_profile.h"
+#include "windows/frmsaveprof_profile_files.h"
+#include "windows/revolveprof_revolve_profile.h"
+
+namespace pelorium {
+namespace {
+
+class ProfileFilesWindow : public AppTest {
+ protected:
+  void AnswerAndPress(const std::filesystem::path& path, const char* menuItem) {
+    platform.QueueAnswer(path.string());
+    PressItem(menuItem);
+  }
+
+  // Every item of a file that this window reads is `item`.
+  void OpenFileOf(const std::string& item) {
+    WriteFile(Profiles(), [&](TextWriter& out) {
+      for (int i = 0; i < 37 * (21 + 37 * 26); ++i) out.Line(item);
+    });
+    AnswerAndPress(Profiles(), "openprof");
+  }
+
+  std::filesystem::path Profiles() const { return folder() / "größe \"1\".txt"; }
+};
+
+TEST_F(ProfileFilesWindow, DialogsAskAsTold) {
+  for (const char* item : {"saveprof", "openprof", "exportprofinfome", "exportprofpara"}) PressItem(item);
+  const auto dialogs = platform.TakeDialogs();
+  ASSERT_EQ(dialogs.size(), 4U);
+  EXPECT_EQ(dialogs[0].title, "Save profiles (.txt file)");
+  EXPECT_TRUE(dialogs[0].save);
+  EXPECT_EQ(dialogs[0].folder, folder() / "profiles");
+  EXPECT_EQ(dialogs[0].filter, "All Files (*.txt)|*.txt");
+  EXPECT_EQ(dialogs[0].defaultExtension, "*.txt");
+  EXPECT_EQ(dialogs[1].title, "Open Profiles (.txt file)");
+  EXPECT_FALSE(dialogs[1].save);
+  EXPECT_EQ(dialogs[2].title, "Export profile info (.txt file)");
+  EXPECT_EQ(dialogs[2].folder, folder() / "profinfo");
+  EXPECT_EQ(dialogs[3].title, "Export profile info (.txt file)");
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(ProfileFilesWindow, WritesItsFiles) {
+  AnswerAndPress(folder() / "all", "saveprof");
+  EXPECT_EQ(app.frmsaveprof.Text1.text(), (folder() / "all.txt").string());
+  EXPECT_EQ(BytesOf(folder() / "all.txt").substr(0, 14), "0 0 0\r\n0 0 0\r\n");
+  AnswerAndPress(folder() / "points.txt", "exportprofinfome");
+  AnswerAndPress(folder() / "parametric.txt", "exportprofpara");
+  EXPECT_EQ(BytesOf(folder() / "points.txt").find("Parametric"), std::string::npos);
+  EXPECT_NE(BytesOf(folder() / "parametric.txt").find("Parametric"), std::string::npos);
+}
+
+TEST_F(ProfileFilesWindow, EverythingShowsWhatWasOpened) {
+  app.revolveprof.Option2.SetValue(true);  // an open file revolves nothing
+  OpenFileOf("20");
+  EXPECT_EQ(app.revolveprof.HScroll10.value(), 20);
+  EXPECT_EQ(app.model.Profile(0).layerCount, 20);
+  EXPECT_EQ(app.form55.Text29.text(), "20");
+  EXPECT_EQ(app.form51.Label17.caption(), "20");
+  EXPECT_EQ(app.model.Part(0).maxfaces, 0);
+  OpenFileOf("90");  // more sections than the bar holds
+  EXPECT_EQ(app.revolveprof.HScroll10.value(), 61);
+  EXPECT_EQ(app.model.Profile(1).sectionCount, 90);
+  EXPECT_EQ(app.model.Profile(0).count, 36);
+  EXPECT_TRUE(app.faults.TakeAll().empty());
+}
+
+TEST_F(ProfileFilesWindow, AFileCutShortLeavesWhatWasRead) {
+  WriteFile(Profiles(), [](TextWriter& out) { out.Line("1 2 3 4"); });
+  AnswerAndPress(Profiles(), "openprof");
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+  EXPECT_EQ(app.model.Profile(0).genMoveX, 4);
+  EXPECT_EQ(app.revolveprof.Text21.text(), "4");
+  EXPECT_EQ(app.revolveprof.HScroll10.value(), 36);
+  AnswerAndPress(folder() / "missing.txt", "openprof");
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+}
+
+}  // namespace
+}  // namespace pelorium
