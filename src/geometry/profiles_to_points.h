@@ -1,4 +1,4 @@
-// A stack of profiles as a Part: each profile a row of points, and the grid of faces between the rows.
+// A stack of profiles as a Part: each profile becomes a row of points.
 #pragma once
 
 #include <algorithm>
@@ -20,10 +20,5 @@ struct ProfileStack {
 // Lays the points behind point `after` of the Part, row by row, and switches them on. Ends early at point
 // 23000. Sets maxpoints to the last one laid and minpoints to 1.
 void LayProfiles(ModelStore& model, int part, const ProfileStack& stack, int after);
-
-// The faces of an open grid as BuildGridFaces makes them, behind those that the Part has, with all corners
-// raised by `pointsBefore`. Corners end at point 23000 and faces at number 7699; maxfaces grows by the grid's
-// count, up to 7700.
-void AppendGridFaces(ModelStore& model, int part, int width, int rows, int pointsBefore);
 
 }  // namespace pelorium

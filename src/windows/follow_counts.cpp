@@ -47,12 +47,16 @@ void FollowSections(App& app) {
   pointsPerLayer.SetValueWidening(ring);
 }
 
-void FollowGenerated(App& app) {
-  FollowCounts(app);
-  app.form5.HScroll20.SetValue(1);
+void FollowSectionsWidely(App& app) {
   ScrollBar& pointsPerLayer = app.form5.HScroll5;
   pointsPerLayer.SetMax(std::max(pointsPerLayer.max(), kMostPointsPerLayer));
   FollowSections(app);
+}
+
+void FollowGenerated(App& app) {
+  FollowCounts(app);
+  app.form5.HScroll20.SetValue(1);
+  FollowSectionsWidely(app);
 }
 
 }  // namespace pelorium

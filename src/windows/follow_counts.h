@@ -12,8 +12,10 @@ void FollowCounts(App& app);
 
 // "Pts/ layer" follows the Part's Sections + 1.
 void FollowSections(App& app);
+// The same, and the bar opens to the widest ring first.
+void FollowSectionsWidely(App& app);
 
-// After a generator: all of it, from the first point on, and "Pts/ layer" opens to the widest ring.
+// After a generator: the counts, with the chosen points from the first one on, and the sections.
 void FollowGenerated(App& app);
 
 }  // namespace pelorium

@@ -164,11 +164,9 @@ void Formulas3Frm::BuildFaces(const ProfileStack& stack, int pointsBefore) {
   FreeFace& faces = app_.freeface;
   faces.HScroll11.SetValue(faces.HScroll11.Clamped(stack.Width()));
   faces.HScroll2.SetValue(faces.HScroll2.Clamped(stack.lastPoint - 2));
-  if (Check1.value()) {
-    AppendGridFaces(app_.model, part, stack.Width(), stack.Rows(), pointsBefore);
-  } else {
-    pelorium::BuildGridFaces(app_.model, part, stack.Width(), stack.Rows(), Seam::Open);
-  }
+  GridPlace place;
+  if (Check1.value()) place = {std::max<int>(0, app_.model.Part(part).maxfaces), pointsBefore};
+  pelorium::BuildGridFaces(app_.model, part, stack.Width(), stack.Rows(), Seam::Open, place);
   app_.model.Part(part).Sections = Narrow<std::int16_t>(std::max(0, stack.Width() - 1));
   app_.model.Part(part).count = 0;
   PressCaps(stack, pointsBefore);

@@ -22,7 +22,6 @@ namespace pelorium {
 namespace {
 
 constexpr int kMostSections = 61;
-constexpr int kMostPointsPerLayer = 120;
 constexpr double kHundredths = 100;
 
 int Whole(const TextBox& box) { return ToInteger<int>(box.Number()); }
@@ -119,13 +118,6 @@ void RevolveProf::AutoRevolve() {
   if (Option2.value() && app_.automaticActionsHeld == 0) Command15.Press();
 }
 
-// Rings may be wider than the points per layer that the start allows.
-void RevolveProf::OpenPointsPerLayer() {
-  ScrollBar& pointsPerLayer = app_.form5.HScroll5;
-  pointsPerLayer.SetMax(std::max(pointsPerLayer.max(), kMostPointsPerLayer));
-  FollowSections(app_);
-}
-
 void RevolveProf::HScroll10_Change() {
   {
     const HoldAutomaticActions hold(app_);
@@ -137,7 +129,7 @@ void RevolveProf::HScroll10_Change() {
     app_.freeface.HScroll11.SetValue(sections + 1);
     HScroll11.SetMax(std::max(HScroll11.max(), kMostSections));
     HScroll11.SetValue(sections);
-    OpenPointsPerLayer();
+    FollowSectionsWidely(app_);
   }
   AutoRevolve();
 }
@@ -202,9 +194,7 @@ void RevolveProf::Command15_Click() {
 void RevolveProf::BuildGridFaces(int width, int rows) {
   const int part = CurrentPart(app_);
   pelorium::BuildGridFaces(app_.model, part, width, rows, Check4.value() ? Seam::Wrapped : Seam::Open);
-  FollowCounts(app_);
-  app_.form5.HScroll20.SetValue(1);
-  OpenPointsPerLayer();
+  FollowGenerated(app_);
   SyncFaceCorners(app_);
   RefreshViews(app_);
 }
@@ -230,7 +220,7 @@ void RevolveProf::FinishEnds(const RevolveSettings& settings) {
   }
   if (Check2.value()) {
     WeldSeam(app_);
-    OpenPointsPerLayer();
+    FollowSectionsWidely(app_);
   }
   if (Check5.value()) {
     ProfilesFromSections(app_.model, settings.part, RingWidth(settings), MeshedRows(settings),

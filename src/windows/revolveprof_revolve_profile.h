@@ -146,7 +146,6 @@ class RevolveProf : public Window {
   void BindParameters();
   void BindGeneralFields();
   void AutoRevolve();
-  void OpenPointsPerLayer();
   void HScroll10_Change();
   void Command15_Click();
   void Command18_Click();

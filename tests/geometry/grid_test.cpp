@@ -101,5 +101,16 @@ TEST(ProfilesFromSections, ColumnsBecomeProfiles) {
   EXPECT_EQ(model.Profile(1).count, 9);  // the source stays
 }
 
+TEST(Grid, StandsBehindOtherFacesAndPoints) {
+  ModelStore model;
+  model.Faces(0, 3).corner1pt = 99;
+  BuildGridFaces(model, 0, 3, 2, Seam::Open, {3, 10});
+  EXPECT_EQ(model.Part(0).maxfaces, 3 + 5);
+  EXPECT_EQ(model.Faces(0, 3).corner1pt, 99);
+  EXPECT_EQ(model.Faces(0, 4).corner1pt, 11);
+  EXPECT_EQ(model.Faces(0, 4).corner3pt, 14);
+  EXPECT_EQ(model.Faces(0, 7).corner2pt, 16);
+}
+
 }  // namespace
 }  // namespace pelorium
