@@ -2,6 +2,7 @@
 #include "desktop/text_widget.h"
 
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "desktop/qt_text.h"
 
@@ -10,12 +11,17 @@ namespace pelorium {
 namespace {
 
 constexpr int kTypingPause = 350;  // milliseconds
-constexpr int kDigitsInSight = 8;
+constexpr int kLeastDigitsInSight = 8, kMostDigitsInSight = 16;
+
+// Room for the text that the box starts with.
+int DigitsInSight(const TextBox& box) {
+  return std::clamp(static_cast<int>(box.text().size()), kLeastDigitsInSight, kMostDigitsInSight);
+}
 
 }  // namespace
 
 TextWidget::TextWidget(TextBox& box, Dispatcher& dispatcher, QWidget* parent)
-    : QLineEdit(parent), box_(box), dispatcher_(dispatcher) {
+    : QLineEdit(parent), box_(box), dispatcher_(dispatcher), digitsInSight_(DigitsInSight(box)) {
   pause_.setSingleShot(true);
   pause_.setInterval(kTypingPause);
   connect(&pause_, &QTimer::timeout, this, [this] { DeliverTyped(); });
@@ -37,7 +43,7 @@ void TextWidget::Sync() {
 }
 
 QSize TextWidget::sizeHint() const {
-  return {fontMetrics().horizontalAdvance('0') * kDigitsInSight + 14, QLineEdit::sizeHint().height()};
+  return {fontMetrics().horizontalAdvance('0') * digitsInSight_ + 14, QLineEdit::sizeHint().height()};
 }
 
 void TextWidget::OnTyped() {

@@ -28,6 +28,7 @@ class TextWidget : public QLineEdit, public ControlView, private PendingInput {
 
   TextBox& box_;
   Dispatcher& dispatcher_;
+  int digitsInSight_;
   QTimer pause_;
   bool isPending_ = false;
 };

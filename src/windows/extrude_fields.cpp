@@ -21,8 +21,8 @@ constexpr double kHundredths = 100;
 
 constexpr const char* kEffector1 = "profile whose points are the first effector";
 constexpr const char* kEffector2 = "profile whose points are the second effector";
-constexpr const char* kAmount1 = "amount of the first effector";
-constexpr const char* kAmount2 = "amount of the second effector";
+constexpr const char* kAmount1 = "amount of the first effector at the selected section";
+constexpr const char* kAmount2 = "amount of the second effector at the selected layer";
 constexpr const char* kTurnLayer = "degrees that the layer turns";
 constexpr const char* kTurnSection = "degrees that the section turns";
 constexpr const char* kTurnAll = "degrees that the whole body turns about the origin";
@@ -69,22 +69,22 @@ const std::array<ExtrudeField, 44> kFields = {{
      &L::secMultY,
      kSectionFrame},
 
-    {{"HScroll25", "Text31", kPicker, "X >>>", kEffector1}, Profile, &H::addProfile1X, kEffectorFrame},
-    {{"HScroll27", "Text33", kPicker, "Y >>>", kEffector1}, Profile, &H::addProfile1Y, kEffectorFrame},
-    {{"HScroll26", "Text32", kPicker, "Z >>>", kEffector1}, Profile, &H::addProfile1Z, kEffectorFrame},
-    {{"HScroll56", "Text58", kPicker, "X >>>", kEffector2}, Profile, &H::addProfile2X, kEffectorFrame},
-    {{"HScroll54", "Text56", kPicker, "Y >>>", kEffector2}, Profile, &H::addProfile2Y, kEffectorFrame},
-    {{"HScroll55", "Text57", kPicker, "Z >>>", kEffector2}, Profile, &H::addProfile2Z, kEffectorFrame},
+    {{"HScroll25", "Text31", kPicker, "X >>>", kEffector1}, Profile, &H::addProfile1X, kEffector1Frame},
+    {{"HScroll27", "Text33", kPicker, "Y >>>", kEffector1}, Profile, &H::addProfile1Y, kEffector1Frame},
+    {{"HScroll26", "Text32", kPicker, "Z >>>", kEffector1}, Profile, &H::addProfile1Z, kEffector1Frame},
+    {{"HScroll56", "Text58", kPicker, "X >>>", kEffector2}, Profile, &H::addProfile2X, kEffector2Frame},
+    {{"HScroll54", "Text56", kPicker, "Y >>>", kEffector2}, Profile, &H::addProfile2Y, kEffector2Frame},
+    {{"HScroll55", "Text57", kPicker, "Z >>>", kEffector2}, Profile, &H::addProfile2Z, kEffector2Frame},
 
-    {{"HScroll48", "Text50", kAmount, "X >>>", kAmount1}, Section, &L::addXAmt1, kAmountFrame},
-    {{"HScroll49", "Text51", kAmount, "Y >>>", kAmount1}, Section, &L::addYAmt1, kAmountFrame},
-    {{"HScroll51", "Text53", kAmount, "Z >>>", kAmount1}, Section, &L::addZAmt1, kAmountFrame},
-    {{"HScroll59", "Text61", kAmount, "X >>>", kAmount2}, Layer, &L::addXAmt2, kAmountFrame},
-    {{"HScroll58", "Text60", kAmount, "Y >>>", kAmount2}, Layer, &L::addYAmt2, kAmountFrame},
-    {{"HScroll57", "Text59", kAmount, "Z", "amount X of the second effector, by section"},
+    {{"HScroll48", "Text50", kAmount, "X >>>", kAmount1}, Section, &L::addXAmt1, kAmount1Frame},
+    {{"HScroll49", "Text51", kAmount, "Y >>>", kAmount1}, Section, &L::addYAmt1, kAmount1Frame},
+    {{"HScroll51", "Text53", kAmount, "Z >>>", kAmount1}, Section, &L::addZAmt1, kAmount1Frame},
+    {{"HScroll59", "Text61", kAmount, "X >>>", kAmount2}, Layer, &L::addXAmt2, kAmount2Frame},
+    {{"HScroll58", "Text60", kAmount, "Y >>>", kAmount2}, Layer, &L::addYAmt2, kAmount2Frame},
+    {{"HScroll57", "Text59", kAmount, "Z", "amount X of the second effector at the selected section"},
      Section,
      &L::addXAmt2,
-     kAmountFrame},
+     kAmount2Frame},
 
     {{"HScroll47", "Text49", kPicker, "X Dir Path #", kPath}, Profile, &H::pathProfileX, kPathFrame},
     {{"HScroll52", "Text54", kPicker, "Y Dir Path #", kPath}, Profile, &H::pathProfileY, kPathFrame},

@@ -28,8 +28,10 @@ struct ExtrudeField {
 inline constexpr std::string_view kExtrudeFrame = "Extrude Profile-Current Profile   (Front View Based)";
 inline constexpr std::string_view kLayerFrame = "Layer";
 inline constexpr std::string_view kSectionFrame = "Section";
-inline constexpr std::string_view kEffectorFrame = " Additive Prof# ";
-inline constexpr std::string_view kAmountFrame = "Additve Mult   ";
+inline constexpr std::string_view kEffector1Frame = "profile #1";
+inline constexpr std::string_view kEffector2Frame = "profile #2";
+inline constexpr std::string_view kAmount1Frame = "amount #1";
+inline constexpr std::string_view kAmount2Frame = "amount #2";
 inline constexpr std::string_view kPathFrame = "General Fallow Path Prof#  Effect";
 inline constexpr std::string_view kPositionFrame = "General Positioning";
 

@@ -254,8 +254,8 @@ LayoutItem Form55::DeclareLayout() {
       Flow({&Command30, &Check1, &Command33}),
       std::move(extrude),
       Frame("Bending Per Section/Layer", {std::move(layer), std::move(section)}),
-      FieldFrame(kEffectorFrame),
-      FieldFrame(kAmountFrame),
+      Frame(" Additive Prof# ", {FieldFrame(kEffector1Frame), FieldFrame(kEffector2Frame)}),
+      Frame("Additve Mult   ", {FieldFrame(kAmount1Frame), FieldFrame(kAmount2Frame)}),
       std::move(paths),
       std::move(position),
   });
