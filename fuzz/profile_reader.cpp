@@ -3,33 +3,14 @@
 // project file's block.
 #include <cstdint>
 #include <cstdlib>
-#include <string>
 
-#include "base/fault.h"
 #include "base/item_reader.h"
 #include "core/profile_file.h"
-
-namespace {
+#include "round_trip.h"
 
 using namespace pelorium;
 
-// False when the text ended or went wrong on the way; what was read up to there stays in the model.
-bool Reads(ModelStore& model, std::string_view text) {
-  try {
-    ReadProfileFile(model, text);
-    return true;
-  } catch (const Fault&) {
-    return false;
-  }
-}
-
-std::string Written(const ModelStore& model) {
-  StringSink sink;
-  TextWriter writer(sink);
-  WriteProfiles(model, writer);
-  writer.Flush();
-  return sink.text();
-}
+namespace {
 
 bool CountsAreHeld(const ModelStore& model) {
   for (int profile = 0; profile <= kMaxProfile; ++profile) {
@@ -45,12 +26,12 @@ bool CountsAreHeld(const ModelStore& model) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static ModelStore& model = *new ModelStore;
   static ModelStore& again = *new ModelStore;
-  const bool whole = Reads(model, {reinterpret_cast<const char*>(data), size});
+  const bool whole = Reads(ReadProfileFile, model, AsText(data, size));
   if (!CountsAreHeld(model)) std::abort();
   if (!whole) return 0;
-  const std::string first = Written(model);
+  const std::string first = Written(WriteProfiles, model);
   ItemReader items(first);
   ReadProfiles(again, items, ProfileItems::All);  // a Fault here is a find
-  if (Written(again) != first) std::abort();
+  if (Written(WriteProfiles, again) != first) std::abort();
   return 0;
 }

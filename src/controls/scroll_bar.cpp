@@ -64,6 +64,7 @@ void ScrollBar::Show(double shown) {
 void ScrollBar::SetMirror(TextBox& box, double divisor) {
   mirror_ = &box;
   divisor_ = divisor;
+  if (box.toolTip().empty()) box.SetToolTip(toolTip());
 }
 
 void ScrollBar::SetOwnValue(const PropertyValue& value) { SetValue(ToInteger<int>(AsNumber(value))); }

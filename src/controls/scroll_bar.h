@@ -44,7 +44,7 @@ class ScrollBar : public Control {
   // runs, so that nothing is written back.
   void Show(double shown);
 
-  // `box` shows value / divisor in general form from now on.
+  // `box` shows value / divisor in general form from now on. Without a tool tip of its own it takes the bar's.
   void SetMirror(TextBox& box, double divisor);
   double Shown() const { return value_ / divisor_; }
 

@@ -60,12 +60,14 @@ void SpaceProfiles(ModelStore& model, ProfileSpan profiles, LayerSpan points, Pr
 }
 
 void ErasePoints(ModelStore& model, int profile, LayerSpan points) {
+  if (points.first > points.last) return;
   ForEach(points, [&](int i) { CopyPosition(model.ProfilePts(i, profile), ProfilePointRec{}); });
   model.Profile(profile).count = 0;
   model.Profile(profile).first = 0;
 }
 
 void CopyProfile(ModelStore& model, int from, ProfileSpan profiles, LayerSpan points) {
+  if (points.first > points.last) return;
   const ProfileHeader& source = model.Profile(from);
   ForEach(profiles, [&](int q) {
     ForEach(points, [&](int i) { CopyPosition(model.ProfilePts(i, q), model.ProfilePts(i, from)); });

@@ -5,8 +5,8 @@
 
 namespace pelorium {
 
-// Points and profiles by their numbers, both ends in, held in 0..36; a lowest above the highest chooses
-// nothing.
+// Points and profiles by their numbers, both ends in, held in 0..36. With a lowest above the highest an edit
+// changes nothing, counts included.
 struct LayerSpan {
   int first = 0, last = kMaxLayer;
 };

@@ -12,7 +12,7 @@ namespace {
 void FetchSide(ModelStore& model, const RingGrid& rings, int side, int profile) {
   const int wanted = std::min(model.Part(rings.part).count + 1, kMaxLayer + 1);
   const int taken = ProfileFromPoints(model, profile, {rings.part, side, rings.rowLength, wanted});
-  if (taken == 0 || wanted < taken) return;
+  if (taken == 0) return;
   const ProfilePointRec& last = model.ProfilePts(taken - 1, profile);
   for (int point = taken; point <= std::min(wanted, kMaxLayer); ++point) {
     ProfilePointRec& to = model.ProfilePts(point, profile);

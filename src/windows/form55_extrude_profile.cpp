@@ -24,6 +24,7 @@ constexpr int kMostLayers = 62;
 constexpr int kMostPointsPerLayer = 120;
 constexpr int kMostWeldedPoints = 36;
 constexpr double kFullTurn = 360;
+constexpr int kUnscaled = 100;  // of a bar that counts hundredths
 
 }  // namespace
 
@@ -154,6 +155,7 @@ void Form55::Cap_Click() {
 void Form55::Command33_Click() {
   ClearExtrudeSettings(app_.model, CurrentProfile(app_));
   app_.form51.ShowProfile();
+  for (ScrollBar* leader : {&HScroll34, &HScroll12, &HScroll43}) leader->Show(kUnscaled);
   AutoExtrude();
 }
 

@@ -79,6 +79,10 @@ TEST_F(EditPoints, CopyAndErase) {
   EXPECT_EQ(At(2), (Vec3{2, 20, 200}));
   MatchPoints(model, 0, 7, 3);
   EXPECT_EQ(At(3), (Vec3{7, 70, 700}));
+  CopyProfile(model, 0, {2, 2}, {2, 1});  // no points chosen: the counts stay too
+  EXPECT_EQ(model.Profile(2).count, 0);
+  ErasePoints(model, 0, {2, 1});
+  EXPECT_EQ(model.Profile(0).count, 5);
   ErasePoints(model, 0, {3, 40});
   EXPECT_EQ(model.Profile(0).count, 0);
   EXPECT_EQ(At(2).X, 2);
