@@ -11,6 +11,7 @@
 #include "windows/file_names.h"
 #include "windows/follow_counts.h"
 #include "windows/form51_view_options.h"
+#include "windows/formulas_edit_profile.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
 
@@ -117,6 +118,7 @@ void Form31::Command5_Click() {
 
 void Form31::OpenPositions(const PushButton& button, const TextBox& name) {
   Trapped(app_.faults, button.FullName(), [&] { ReadProfilePositions(app_.model, ReadFile(name.text())); });
+  app_.formulas.ShowProfile();
   RefreshViews(app_);
 }
 
