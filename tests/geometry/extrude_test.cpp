@@ -111,18 +111,6 @@ TEST_F(Extrude, AdditiveStartsFromThePart) {
   EXPECT_EQ(Point(6), (Vec3{26, 10, 5}));
 }
 
-TEST_F(Extrude, CountsLeaveTheLastRingOutUnlessItIsMeshed) {
-  model.Profile(0).layerCount = 12;
-  CountExtrudedPoints(model, settings, LayExtrudedPoints(model, settings), 12);
-  EXPECT_EQ(model.Part(0).maxpoints, 48);
-  model.Profile(0).layerCount = 11;
-  CountExtrudedPoints(model, settings, LayExtrudedPoints(model, settings), 12);
-  EXPECT_EQ(model.Part(0).maxpoints, 48);
-  model.Profile(0).layerCount = -1;
-  CountExtrudedPoints(model, settings, LayExtrudedPoints(model, settings), 0);
-  EXPECT_EQ(model.Part(0).maxpoints, 0);
-}
-
 TEST_F(Extrude, NumbersOutsideTheTablesEndIt) {
   model.Profile(0).layerCount = 40;
   EXPECT_THROW(LayExtrudedPoints(model, settings), Fault);
@@ -130,17 +118,6 @@ TEST_F(Extrude, NumbersOutsideTheTablesEndIt) {
   model.Profile(0).layerCount = 12;
   model.Profile(0).addProfile2Y = 37;
   EXPECT_THROW(LayExtrudedPoints(model, settings), Fault);
-}
-
-TEST_F(Extrude, ClearedSettingsKeepTheDrawing) {
-  model.Profile(0).count = 4;
-  model.Profile(0).genMoveX = 3;
-  model.ProfilePts(36, 0).multZb = 3;
-  ClearExtrudeSettings(model, 0);
-  EXPECT_EQ(model.Profile(0).count, 4);
-  EXPECT_EQ(model.Profile(0).genMoveX, 0);
-  EXPECT_EQ(model.ProfilePts(36, 0).multZb, 1);
-  EXPECT_EQ(model.ProfilePts(2, 0).X, 30);
 }
 
 }  // namespace

@@ -1,8 +1,5 @@
 // The Extrude window: its bars and the profile's settings, and what an extrude sets elsewhere.
-#include <algorithm>
-
 #include "app_fixture.h"
-#include "controls/properties.h"
 #include "windows/extrude_fields.h"
 #include "windows/form36_view.h"
 #include "windows/form51_view_options.h"
@@ -194,10 +191,16 @@ TEST_F(ExtrudeWindow, NumbersFromAFileEndItQuietly) {
 }
 
 TEST_F(ExtrudeWindow, ClearSettingsBringsTheDefaultsBack) {
+  Draw(2);
   Bar("HScroll37").Drag(40);
+  Bar("HScroll12").Drag(40);
   app.form55.Check2.SetValue(true);
   app.form55.Command33.Press();
   EXPECT_EQ(app.model.Profile(0).genMoveX, 0);
+  EXPECT_EQ(app.model.ProfilePts(0, 0).secMultX, 1);
+  EXPECT_EQ(Bar("HScroll12").value(), 100);
+  EXPECT_EQ(app.model.ProfilePts(1, 0).X, 110);  // the drawing stays
+  EXPECT_EQ(app.model.Profile(0).count, 2);
   EXPECT_EQ(Text("Text40"), "0");
   EXPECT_EQ(app.revolveprof.Text21.text(), "0");
   EXPECT_FALSE(app.form55.Check2.value());

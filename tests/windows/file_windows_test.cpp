@@ -4,8 +4,8 @@
 #include "app_fixture.h"
 #include "windows/form14_obj_files.h"
 #include "windows/form31_project_files.h"
-#include "windows/form5_precise_edit.h"
 #include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
 #include "windows/revolveprof_revolve_profile.h"
 #include "windows/shared_parameters.h"
 

@@ -12,7 +12,7 @@
 namespace pelorium {
 namespace {
 
-class FormulasWindow : public AppTest {
+class ProfileFormulasWindow : public AppTest {
  protected:
   ScrollBar& Bar(const char* name) { return dynamic_cast<ScrollBar&>(*window.Find(name)); }
   TextBox& Box(const char* name) { return dynamic_cast<TextBox&>(*window.Find(name)); }
@@ -24,7 +24,7 @@ class FormulasWindow : public AppTest {
   Formulas2Frm& window = app.formulas2frm;
 };
 
-TEST_F(FormulasWindow, APressFillsTheProfileChosenHere) {
+TEST_F(ProfileFormulasWindow, APressFillsTheProfileChosenHere) {
   window.HScroll25.Drag(3);
   EXPECT_EQ(CurrentProfile(app), 3);
   app.form5.Text5.Type("5");
@@ -43,7 +43,7 @@ TEST_F(FormulasWindow, APressFillsTheProfileChosenHere) {
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
-TEST_F(FormulasWindow, TheTextIsTheParameterAndWordsCountAsZero) {
+TEST_F(ProfileFormulasWindow, TheTextIsTheParameterAndWordsCountAsZero) {
   EXPECT_EQ(Box("Text11").text(), "10.2857142857143");
   EXPECT_EQ(Box("Text26").text(), ".36");
   Box("Text26").Type("2.5 and more");
@@ -58,7 +58,7 @@ TEST_F(FormulasWindow, TheTextIsTheParameterAndWordsCountAsZero) {
   EXPECT_EQ(Box("Text26").text(), "0.5");
 }
 
-TEST_F(FormulasWindow, PlainFormsTakeTheBarsThemselves) {
+TEST_F(ProfileFormulasWindow, PlainFormsTakeTheBarsThemselves) {
   Box("Text20").Type("9.5");
   Box("Text33").Type("1");
   window.Command5.Press();
@@ -70,7 +70,7 @@ TEST_F(FormulasWindow, PlainFormsTakeTheBarsThemselves) {
   EXPECT_EQ(Point(2).X, 19);
 }
 
-TEST_F(FormulasWindow, EveryBarButTheProfilesRunsTheChosenFormula) {
+TEST_F(ProfileFormulasWindow, EveryBarButTheProfilesRunsTheChosenFormula) {
   Bar("HScroll2").Drag(50);
   EXPECT_EQ(Point(0), Vec3{});  // none is chosen
   window.Option3.SetValue(true);
@@ -87,7 +87,7 @@ TEST_F(FormulasWindow, EveryBarButTheProfilesRunsTheChosenFormula) {
   EXPECT_EQ(Point(1, 4), Vec3{});
 }
 
-TEST_F(FormulasWindow, ResetTakesItsFrameBackAndRunsOnce) {
+TEST_F(ProfileFormulasWindow, ResetTakesItsFrameBackAndRunsOnce) {
   window.Option3.SetValue(true);
   Box("Text11").Type("0");
   for (const char* name : {"HScroll2", "HScroll3", "HScroll15"}) Bar(name).Drag(9);
@@ -106,7 +106,7 @@ TEST_F(FormulasWindow, ResetTakesItsFrameBackAndRunsOnce) {
   EXPECT_EQ(Box("Text22").text(), "50");
 }
 
-TEST_F(FormulasWindow, AFaultEndsTheFormulaQuietly) {
+TEST_F(ProfileFormulasWindow, AFaultEndsTheFormulaQuietly) {
   Box("Text18").Type("1e200");
   window.Command4.Press();
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);

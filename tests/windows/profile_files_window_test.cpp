@@ -29,23 +29,6 @@ class ProfileFilesWindow : public AppTest {
   std::filesystem::path Profiles() const { return folder() / "größe \"1\".txt"; }
 };
 
-TEST_F(ProfileFilesWindow, DialogsAskAsTold) {
-  for (const char* item : {"saveprof", "openprof", "exportprofinfome", "exportprofpara"}) PressItem(item);
-  const auto dialogs = platform.TakeDialogs();
-  ASSERT_EQ(dialogs.size(), 4U);
-  EXPECT_EQ(dialogs[0].title, "Save profiles (.txt file)");
-  EXPECT_TRUE(dialogs[0].save);
-  EXPECT_EQ(dialogs[0].folder, folder() / "profiles");
-  EXPECT_EQ(dialogs[0].filter, "All Files (*.txt)|*.txt");
-  EXPECT_EQ(dialogs[0].defaultExtension, "*.txt");
-  EXPECT_EQ(dialogs[1].title, "Open Profiles (.txt file)");
-  EXPECT_FALSE(dialogs[1].save);
-  EXPECT_EQ(dialogs[2].title, "Export profile info (.txt file)");
-  EXPECT_EQ(dialogs[2].folder, folder() / "profinfo");
-  EXPECT_EQ(dialogs[3].title, "Export profile info (.txt file)");
-  EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
 TEST_F(ProfileFilesWindow, WritesItsFiles) {
   AnswerAndPress(folder() / "all", "saveprof");
   EXPECT_EQ(app.frmsaveprof.Text1.text(), (folder() / "all.txt").string());

@@ -3,8 +3,8 @@
 
 #include "app_fixture.h"
 #include "windows/form36_view.h"
-#include "windows/form5_precise_edit.h"
 #include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
 #include "windows/revolveprof_revolve_profile.h"
 #include "windows/shared_parameters.h"
 

@@ -4,8 +4,8 @@
 #include "app_fixture.h"
 #include "windows/command_table.h"
 #include "windows/form36_view.h"
-#include "windows/form5_precise_edit.h"
 #include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
 #include "windows/mdi_form1.h"
 
 namespace pelorium {
@@ -51,8 +51,8 @@ TEST_F(Start, ItemsWithoutTheirWindowAreDisabled) {
   for (const char* name : {"triangleobj", "mterials", "rev1", "opentex", "copypart", "erase"}) {
     EXPECT_FALSE(app.mdiForm1.Find(name)->enabled()) << name;
   }
-  for (const char* name :
-       {"rev", "extrudeme", "importprofiles", "formulait", "openproj", "memsave", "joinit", "exiter", "aboutit", "estarea"}) {
+  for (const char* name : {"rev", "extrudeme", "importprofiles", "formulait", "openproj", "memsave", "joinit",
+                           "exiter", "aboutit", "estarea"}) {
     EXPECT_TRUE(app.mdiForm1.Find(name)->enabled()) << name;
   }
   EXPECT_FALSE(app.Deliver({"MDIForm1", "triangleobj"}));
