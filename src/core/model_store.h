@@ -30,6 +30,14 @@ struct Vec3 {
   bool operator==(const Vec3&) const = default;
 };
 
+// X, Y, Z of one record for another: mesh points, profile points, places.
+template <typename To, typename From>
+void CopyPosition(To& to, const From& from) {
+  to.X = from.X;
+  to.Y = from.Y;
+  to.Z = from.Z;
+}
+
 // A point of a mesh. Small: the views walk tens of thousands of them at each mouse move.
 struct PointRec {
   double X = 1, Y = 1, Z = 1;

@@ -5,17 +5,6 @@
 
 namespace pelorium {
 
-namespace {
-
-template <typename Place>
-void CopyPosition(ProfilePointRec& to, const Place& from) {
-  to.X = from.X;
-  to.Y = from.Y;
-  to.Z = from.Z;
-}
-
-}  // namespace
-
 int ProfileFromPoints(ModelStore& model, int profile, const PointWalk& walk) {
   int taken = 0;
   long long number = walk.first;

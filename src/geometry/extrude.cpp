@@ -185,7 +185,7 @@ void ClearExtrudeSettings(ModelStore& model, int profile) {
   for (int i = 0; i <= kMaxLayer; ++i) {
     ProfilePointRec& point = model.ProfilePts(i, profile);
     ProfilePointRec bare;
-    bare.X = point.X, bare.Y = point.Y, bare.Z = point.Z;
+    CopyPosition(bare, point);
     point = bare;
   }
 }

@@ -8,9 +8,7 @@ void JoinRingEnds(ModelStore& model, int part, int ringWidth) {
   for (int last = ringWidth; last <= model.Part(part).maxpoints; last += ringWidth) {
     const PointRec& first = model.Points(part, last - ringWidth + 1);
     PointRec& end = model.Points(part, last);
-    end.X = first.X;
-    end.Y = first.Y;
-    end.Z = first.Z;
+    CopyPosition(end, first);
   }
 }
 

@@ -145,9 +145,7 @@ void StorePlaces(ModelStore& model, int part, const std::vector<Vec3>& places) {
   int number = 0;
   for (const Vec3& place : places) {
     PointRec& point = model.Points(part, ++number);
-    point.X = place.X;
-    point.Y = place.Y;
-    point.Z = place.Z;
+    CopyPosition(point, place);
   }
 }
 

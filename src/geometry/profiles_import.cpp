@@ -12,9 +12,7 @@ void ImportProfilePoints(ModelStore& model, int part, int firstProfile, int last
     for (int i = 0; count > 0 && i <= count; ++i) {
       const ProfilePointRec& from = model.ProfilePts(i, profile);
       PointRec& to = model.Points(part, ++number);
-      to.X = from.X;
-      to.Y = from.Y;
-      to.Z = from.Z;
+      CopyPosition(to, from);
       to.onoff = model.PointMark(part, number) = 1;
     }
   }

@@ -9,7 +9,7 @@ void LayProfiles(ModelStore& model, int part, const ProfileStack& stack, int aft
     for (int i = stack.firstPoint; i <= stack.lastPoint && n < kMaxPoints; ++i) {
       const ProfilePointRec& from = model.ProfilePts(i, profile);
       PointRec& point = model.Points(part, ++n);
-      point.X = from.X, point.Y = from.Y, point.Z = from.Z;
+      CopyPosition(point, from);
       point.onoff = model.PointMark(part, n) = 1;
     }
   }

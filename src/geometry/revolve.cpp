@@ -80,9 +80,7 @@ class Ring {
 
 void LayPoint(ModelStore& model, int part, int number, const Vec3& position) {
   PointRec& point = model.Points(part, number);
-  point.X = position.X;
-  point.Y = position.Y;
-  point.Z = position.Z;
+  CopyPosition(point, position);
   point.onoff = 1;
   model.PointMark(part, number) = 1;
 }

@@ -8,12 +8,6 @@ namespace pelorium {
 
 namespace {
 
-void CopyPosition(ProfilePointRec& to, const ProfilePointRec& from) {
-  to.X = from.X;
-  to.Y = from.Y;
-  to.Z = from.Z;
-}
-
 template <typename Act>
 void ForEach(LayerSpan points, Act act) {
   for (int i = std::max(0, points.first); i <= std::min(points.last, kMaxLayer); ++i) act(i);

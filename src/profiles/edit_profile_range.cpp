@@ -58,9 +58,7 @@ void TurnBlock(ModelStore& model, const ProfileBlock& block, BlockAxis p, BlockA
 
 void CopyToBlock(ModelStore& model, const ProfileBlock& block, int source) {
   ForEachPoint(EveryPoint(block), [&](int i, int profile) {
-    const ProfilePointRec& from = model.ProfilePts(i, source);
-    ProfilePointRec& to = model.ProfilePts(i, profile);
-    to.X = from.X, to.Y = from.Y, to.Z = from.Z;
+    CopyPosition(model.ProfilePts(i, profile), model.ProfilePts(i, source));
   });
 }
 

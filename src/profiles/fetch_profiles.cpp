@@ -15,8 +15,7 @@ void FetchSide(ModelStore& model, const RingGrid& rings, int side, int profile) 
   if (taken == 0) return;
   const ProfilePointRec& last = model.ProfilePts(taken - 1, profile);
   for (int point = taken; point <= std::min(wanted, kMaxLayer); ++point) {
-    ProfilePointRec& to = model.ProfilePts(point, profile);
-    to.X = last.X, to.Y = last.Y, to.Z = last.Z;
+    CopyPosition(model.ProfilePts(point, profile), last);
   }
   model.Profile(profile).count = static_cast<std::int16_t>(std::min(wanted, kMaxLayer));
 }

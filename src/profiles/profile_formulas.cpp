@@ -77,9 +77,7 @@ void MoveProfilePoint(ProfilePointRec& point, const Vec3& position) {
   for (double coordinate : {position.X, position.Y, position.Z}) {
     if (!std::isfinite(coordinate)) RaiseOverflow(coordinate);
   }
-  point.X = position.X;
-  point.Y = position.Y;
-  point.Z = position.Z;
+  CopyPosition(point, position);
 }
 
 void LayCircle(ModelStore& model, const FormulaSettings& s, RandomSeries& random) {
