@@ -44,6 +44,7 @@ void Control::SetCaption(std::string caption) {
 }
 
 void Control::SetToolTip(std::string toolTip) {
+  if (toolTip == toolTip_) return;
   toolTip_ = std::move(toolTip);
   NotifyChanged();
 }

@@ -77,6 +77,8 @@ TEST_F(Example, VaseLeavesProjectMeshReportAndPictures) {
 struct SmallModel {
   const char* name;
   int faces, points;
+
+  friend std::ostream& operator<<(std::ostream& out, const SmallModel& model) { return out << model.name; }
 };
 
 class SmallModels : public Example, public ::testing::WithParamInterface<SmallModel> {};
