@@ -2,6 +2,7 @@
 #include "windows/follow_counts.h"
 
 #include <algorithm>
+#include <string>
 
 #include "base/numbers.h"
 #include "core/part_operations.h"
@@ -9,6 +10,7 @@
 #include "windows/editbyface_face_info.h"
 #include "windows/form51_view_options.h"
 #include "windows/form5_precise_edit.h"
+#include "windows/freeface_free_faces.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {
@@ -38,6 +40,7 @@ void FollowCounts(App& app) {
   app.form5.HScroll25.SetMax(points);
   app.form5.HScroll25.SetValue(points);
   FollowMax(app.form5.HScroll20, std::max(1, points), 1);
+  app.freeface.Text16.SetText(std::to_string(part.maxfaces));
   app.form51.Label3.SetCaption(CountCaption(app.model, CurrentPart(app)));
 }
 

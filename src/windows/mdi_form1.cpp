@@ -2,7 +2,7 @@
 #include "windows/mdi_form1.h"
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 #include <string>
 
 #include "core/part_operations.h"
@@ -77,14 +77,20 @@ void MDIForm1::PlaceWindows() {
     const char* window;
     double left, top;
   };
-  for (const Place& place : std::array<Place, 8>{{{"Form31", 10, 0},
-                                                  {"Form14", 10, 0},
-                                                  {"Form5", 10, 0},
-                                                  {"Formulas", 10, 0},
-                                                  {"editbyface", 10, 0},
-                                                  {"Form36", 4300, 0},
-                                                  {"revolveprof", 0, 10},
-                                                  {"Form51", 0, 10}}}) {
+  for (const Place& place : std::initializer_list<Place>{{"Form31", 10, 0},
+                                                         {"Form14", 10, 0},
+                                                         {"Form5", 10, 0},
+                                                         {"Formulas", 10, 0},
+                                                         {"Formulas2frm", 10, 0},
+                                                         {"Formulas3frm", 10, 0},
+                                                         {"frmsaveprof", 10, 0},
+                                                         {"Form55", 10, 0},
+                                                         {"freeface", 10, 0},
+                                                         {"specialeffects1", 10, 0},
+                                                         {"editbyface", 10, 0},
+                                                         {"Form36", 4300, 0},
+                                                         {"revolveprof", 0, 10},
+                                                         {"Form51", 0, 10}}) {
     app_.FindWindow(place.window)->MoveTo(place.left, place.top);
   }
   app_.form36.Show();
