@@ -12,15 +12,15 @@ TextBox::TextBox(Window& owner, std::string name, std::string text, std::string 
 
 double TextBox::Number() const { return Val(text_); }
 
-void TextBox::SetText(std::string text) {
+void TextBox::SetText(const std::string& text) {
   if (text == text_) return;
-  text_ = std::move(text);
+  text_ = text;
   NotifyChanged();
   if (onChange) onChange();
 }
 
-void TextBox::Type(std::string text) {
-  SetText(std::move(text));
+void TextBox::Type(const std::string& text) {
+  SetText(text);
   if (onKeyUp) onKeyUp();
 }
 

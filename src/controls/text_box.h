@@ -13,9 +13,9 @@ class TextBox : public Control {
   double Number() const;  // the leading number of the text, else 0
 
   // As the program sets it: a different text runs onChange within the call.
-  void SetText(std::string text);
+  void SetText(const std::string& text);
   // As a person replaces it: onChange if it differs, then onKeyUp in any case.
-  void Type(std::string text);
+  void Type(const std::string& text);
 
   PropertyValue Value() const override { return text_; }
   void SetOwnValue(const PropertyValue& value) override { SetText(AsText(value)); }
