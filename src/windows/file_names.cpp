@@ -1,12 +1,19 @@
 // Asking for file names.
 #include "windows/file_names.h"
 
+#include <system_error>
+
 #include "windows/app.h"
 
 namespace pelorium {
 
 std::filesystem::path AskFileName(App& app, FileDialogRequest request) {
   request.folder = app.applicationPath / request.folder;
+  if (request.save) {  // a new user has none of the folders yet; where none can be made the dialog starts
+                       // elsewhere
+    std::error_code ignored;
+    std::filesystem::create_directories(request.folder, ignored);
+  }
   std::filesystem::path name = app.platform.AskFileName(request);
   const std::string& pattern = request.defaultExtension;
   if (!name.empty() && !name.has_extension() && pattern.starts_with("*.")) name += pattern.substr(1);

@@ -12,8 +12,8 @@ namespace pelorium {
 
 class App;
 
-// Runs the dialog, which starts in `request.folder` under the application path. A name without an ending gets
-// the request's default extension. Empty when the dialog was cancelled.
+// Runs the dialog, which starts in `request.folder` under the application path; a save makes that folder. A
+// name without an ending gets the request's default extension. Empty when the dialog was cancelled.
 std::filesystem::path AskFileName(App& app, FileDialogRequest request);
 
 // Choosing a folder fills the list of files; choosing a file puts its path into the box.

@@ -30,6 +30,8 @@ class ProfileFilesWindow : public AppTest {
 };
 
 TEST_F(ProfileFilesWindow, WritesItsFiles) {
+  PressItem("saveprof");  // cancelled
+  EXPECT_TRUE(std::filesystem::is_directory(folder() / "profiles"));
   AnswerAndPress(folder() / "all", "saveprof");
   EXPECT_EQ(app.frmsaveprof.Text1.text(), (folder() / "all.txt").string());
   EXPECT_EQ(BytesOf(folder() / "all.txt").substr(0, 14), "0 0 0\r\n0 0 0\r\n");
