@@ -4,9 +4,7 @@
 #include <cmath>
 
 #include "geometry/extrude.h"
-#include "platform/headless_platform.h"
-#include "windows/app.h"
-#include "windows/form36_view.h"
+#include "program.h"
 #include "windows/form51_view_options.h"
 #include "windows/form55_extrude_profile.h"
 
@@ -53,22 +51,13 @@ BENCHMARK(ExtrudedPoints)->Unit(benchmark::kMillisecond);
 
 // A bar of the window is moved; event to pixels.
 void AutoExtrudeEvent(benchmark::State& state) {
-  HeadlessPlatform platform;
-  App app(platform, ".");
-  app.Start();
+  Program program;
+  App& app = program.app;
   PrepareProfile(app.model, 0);
   app.form51.ShowProfile();
   app.form51.Option4.SetValue(true);
   app.form55.Check1.SetValue(true);
-  UserEvent drag;
-  drag.window = "Form55";
-  drag.control = "HScroll23";
-  drag.action = UserAction::Drag;
-  for (auto _ : state) {
-    drag.value = drag.value < 50 ? drag.value + 1 : 10;
-    app.Deliver(drag);
-    benchmark::DoNotOptimize(app.form36.Picture1.picture.Pixels().data());
-  }
+  MeasureDrags(state, app, "Form55", "HScroll23", 10, 11);
   state.counters["faces"] = app.model.Part(0).maxfaces;
 }
 BENCHMARK(AutoExtrudeEvent)->Unit(benchmark::kMillisecond);

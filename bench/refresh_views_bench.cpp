@@ -5,23 +5,15 @@
 #include <QPainter>
 
 #include "full_model.h"
-#include "platform/headless_platform.h"
+#include "program.h"
 #include "views/draw_views.h"
-#include "windows/app.h"
-#include "windows/form36_view.h"
-#include "windows/form5_precise_edit.h"
 #include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
 #include "windows/refresh_views.h"
 #include "windows/revolveprof_revolve_profile.h"
 
 namespace pelorium {
 namespace {
-
-struct Program {
-  HeadlessPlatform platform;
-  App app{platform, "."};
-  Program() { app.Start(); }
-};
 
 void ShowAll(App& app) {
   FillModel(app.model);
@@ -106,15 +98,7 @@ void AutoRevolveEvent(benchmark::State& state) {
   }
   app.form51.Option4.SetValue(true);
   app.revolveprof.Option2.SetValue(true);
-  UserEvent event;
-  event.window = "revolveprof";
-  event.control = "HScroll8";
-  event.action = UserAction::Drag;
-  for (auto _ : state) {
-    event.value = event.value == 5 ? 6 : 5;
-    app.Deliver(event);
-    benchmark::DoNotOptimize(app.form36.Picture1.picture.Pixels().data());
-  }
+  MeasureDrags(state, app, "revolveprof", "HScroll8", 5, 6);
 }
 BENCHMARK(AutoRevolveEvent)->Unit(benchmark::kMillisecond);
 

@@ -7,6 +7,14 @@
 
 namespace pelorium {
 
+// Puts a point to X, Y, Z of `place` and switches it on, in both of its marks.
+template <typename Place>
+void LayPoint(ModelStore& model, int part, int number, const Place& place) {
+  PointRec& point = model.Points(part, number);
+  CopyPosition(point, place);
+  point.onoff = model.PointMark(part, number) = 1;
+}
+
 // Copies the positions of each face's corner points into the face, for the faces in use of one Part. A corner
 // below 0 leaves its face as it is; one above 23000 raises a Subscript fault.
 void SyncFaceCorners(ModelStore& model, int part);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "base/fault.h"
 #include "geometry/rot.h"
 
 namespace pelorium {
@@ -174,6 +175,13 @@ void CountExtrudedPoints(ModelStore& model, const ExtrudeSettings& settings, int
   PartHeader& header = model.Part(settings.part);
   header.maxpoints = static_cast<std::int16_t>(std::max({0, withoutLastRing, rows * RingWidth(settings)}));
   header.minpoints = 1;
+}
+
+void SpinLayersEvenly(ModelStore& model, int profile, int sections) {
+  constexpr double kFullTurn = 360;
+  if (sections == 1) throw Fault(FaultKind::DivisionByZero, "spin of one section");
+  const double spin = kFullTurn / (sections - 1);
+  for (int layer = 0; layer <= sections; ++layer) model.ProfilePts(layer, profile).spinZ = spin;
 }
 
 void ClearExtrudeSettings(ModelStore& model, int profile) {

@@ -34,6 +34,10 @@ int LayExtrudedPoints(ModelStore& model, const ExtrudeSettings& settings);
 // `rows` that are meshed. minpoints becomes 1.
 void CountExtrudedPoints(ModelStore& model, const ExtrudeSettings& settings, int next, int rows);
 
+// Gives the layers 0..sections the spin that makes one full turn over `sections`. 1 section has no step to
+// divide the turn by: a DivisionByZero fault, and nothing is written.
+void SpinLayersEvenly(ModelStore& model, int profile, int sections);
+
 // All extrude settings of a profile back to their defaults. The drawn points and their count stay.
 void ClearExtrudeSettings(ModelStore& model, int profile);
 

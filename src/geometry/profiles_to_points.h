@@ -1,4 +1,4 @@
-// A stack of profiles as a Part: each profile becomes a row of points.
+// Profile points as points of a Part.
 #pragma once
 
 #include <algorithm>
@@ -20,5 +20,9 @@ struct ProfileStack {
 // Lays the points behind point `after` of the Part, row by row, and switches them on. Ends early at point
 // 23000. Sets maxpoints to the last one laid and minpoints to 1.
 void LayProfiles(ModelStore& model, int part, const ProfileStack& stack, int after);
+
+// The same for the points 0..count of the profiles firstProfile..lastProfile, from point 1 of the Part on.
+// Profiles without points are passed over; the Part's faces stay.
+void ImportProfilePoints(ModelStore& model, int part, int firstProfile, int lastProfile);
 
 }  // namespace pelorium

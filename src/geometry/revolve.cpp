@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/numbers.h"
+#include "core/part_operations.h"
 #include "geometry/rot.h"
 
 namespace pelorium {
@@ -77,13 +78,6 @@ class Ring {
   double counter_ = 0;
   double rise_ = 0;
 };
-
-void LayPoint(ModelStore& model, int part, int number, const Vec3& position) {
-  PointRec& point = model.Points(part, number);
-  CopyPosition(point, position);
-  point.onoff = 1;
-  model.PointMark(part, number) = 1;
-}
 
 }  // namespace
 

@@ -27,20 +27,25 @@ void FollowMax(ScrollBar& bar, int max, int fallback) {
 
 }  // namespace
 
-void FollowCounts(App& app) {
+void FollowFaces(App& app) {
   const HoldAutomaticActions hold(app);
   const PartHeader& part = app.model.Part(CurrentPart(app));
-  const int faces = std::max<int>(0, part.maxfaces), points = part.maxpoints;  // a count may stand at -1
-
+  const int faces = std::max<int>(0, part.maxfaces);  // a count may stand at -1
   app.form51.HScroll7.SetMax(std::max(1, faces));
-  app.form51.HScroll7.SetValue(1);
   app.form51.HScroll5.SetMax(faces);
   app.form51.HScroll5.SetValue(faces);
-  app.editbyface.FollowCounts(points, faces);
+  app.editbyface.FollowCounts(part.maxpoints, faces);
+  app.freeface.Text16.SetText(std::to_string(part.maxfaces));
+}
+
+void FollowCounts(App& app) {
+  const HoldAutomaticActions hold(app);
+  FollowFaces(app);
+  app.form51.HScroll7.SetValue(1);
+  const int points = app.model.Part(CurrentPart(app)).maxpoints;
   app.form5.HScroll25.SetMax(points);
   app.form5.HScroll25.SetValue(points);
   FollowMax(app.form5.HScroll20, std::max(1, points), 1);
-  app.freeface.Text16.SetText(std::to_string(part.maxfaces));
   app.form51.Label3.SetCaption(CountCaption(app.model, CurrentPart(app)));
 }
 

@@ -10,6 +10,9 @@ class App;
 // just read.
 void FollowCounts(App& app);
 
+// The face half of it: the choices of faces end at the last one, their start stays.
+void FollowFaces(App& app);
+
 // "Pts/ layer" follows the Part's Sections + 1.
 void FollowSections(App& app);
 // The same, and the bar opens to the widest ring first.

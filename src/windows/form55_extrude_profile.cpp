@@ -23,7 +23,6 @@ namespace {
 constexpr int kMostLayers = 62;
 constexpr int kMostPointsPerLayer = 120;
 constexpr int kMostWeldedPoints = 36;
-constexpr double kFullTurn = 360;
 constexpr int kUnscaled = 100;  // of a bar that counts hundredths
 
 }  // namespace
@@ -131,17 +130,12 @@ void Form55::HScroll24_Change() {
   Trapped(app_.faults, "Form55.HScroll24", [this] {
     const int sections = HScroll24.value(), profile = CurrentProfile(app_);
     app_.model.Profile(profile).layerCount = Narrow<std::int16_t>(sections - 1);
-    if (Check6.value()) SpinLayers(profile, sections);
+    if (Check6.value()) {
+      SpinLayersEvenly(app_.model, profile, sections);
+      ShowFields();
+    }
     AutoExtrude();
   });
-}
-
-// One full turn over all layers.
-void Form55::SpinLayers(int profile, int sections) {
-  if (sections == 1) throw Fault(FaultKind::DivisionByZero, HScroll24.FullName());
-  const double spin = kFullTurn / (sections - 1);
-  for (int layer = 0; layer <= sections; ++layer) app_.model.ProfilePts(layer, profile).spinZ = spin;
-  ShowFields();
 }
 
 void Form55::Cap_Click() {

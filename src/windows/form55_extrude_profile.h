@@ -68,7 +68,6 @@ class Form55 : public Window {
   void ShowFields();
   void AutoExtrude();
   void HScroll24_Change();
-  void SpinLayers(int profile, int sections);
   void Cap_Click();
   void Command33_Click();
   void Command30_Click();

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/numbers.h"
-#include "geometry/profiles_import.h"
+#include "geometry/profiles_to_points.h"
 #include "windows/app.h"
 #include "windows/editbyface_face_info.h"
 #include "windows/follow_counts.h"
@@ -156,19 +156,7 @@ void FreeFace::FinishAppending() {
   app_.form5.Label1.SetCaption(counts);
   app_.form51.Label3.SetCaption(counts);
   part.minfaces = 1;
-  FollowFaceCount();
-}
-
-// The choices of faces open to the last one, and the wire takes the new corners.
-void FreeFace::FollowFaceCount() {
-  const HoldAutomaticActions hold(app_);
-  const PartHeader& part = app_.model.Part(CurrentPart(app_));
-  const int faces = std::max<int>(0, part.maxfaces);
-  app_.form51.HScroll7.SetMax(std::max(1, faces));
-  app_.form51.HScroll5.SetMax(faces);
-  app_.form51.HScroll5.SetValue(faces);
-  app_.editbyface.FollowCounts(part.maxpoints, faces);
-  Text16.SetText(std::to_string(part.maxfaces));
+  FollowFaces(app_);
   SyncFaceCorners(app_);
 }
 
@@ -176,7 +164,8 @@ void FreeFace::ChangeFaceCount(const Control& button, int count) {
   Trapped(app_.faults, button.FullName(), [&] {
     app_.model.Part(CurrentPart(app_)).maxfaces =
         Narrow<std::int16_t>(std::clamp(count, kFewestFaces, kMaxFaces));
-    FollowFaceCount();
+    FollowFaces(app_);
+    SyncFaceCorners(app_);
   });
   RefreshViews(app_);
 }

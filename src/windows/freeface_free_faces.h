@@ -108,7 +108,6 @@ class FreeFace : public Window {
   void BindRouting();
   FreeFaceSettings ReadSettings() const;
   void FinishAppending();
-  void FollowFaceCount();
   void ChangeFaceCount(const Control& button, int count);
   FaceRec& RoutedFace();
   void StoreCorner(const ScrollBar& bar, std::int32_t FaceRec::*corner);
