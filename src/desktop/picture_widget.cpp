@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
-#include <algorithm>
 #include <cmath>
 
 namespace pelorium {
@@ -13,10 +12,6 @@ namespace pelorium {
 namespace {
 
 constexpr QSize kLeastFollowingSize(160, 120);
-
-bool IsSameLine(const OverlayLine& a, const OverlayLine& b) {
-  return a.x0 == b.x0 && a.y0 == b.y0 && a.x1 == b.x1 && a.y1 == b.y1 && a.colour == b.colour;
-}
 
 QColor ToQt(Colour colour) { return {Red(colour), Green(colour), Blue(colour)}; }
 
@@ -66,11 +61,7 @@ void PictureWidget::FitToPicture() {
 
 void PictureWidget::ShowPresent() {
   if (!isVisible()) return;
-  const auto& overlay = box_.picture.overlay;
-  const bool isShown =
-      box_.picture.Revision() == shownRevision_ &&
-      std::equal(overlay.begin(), overlay.end(), shownOverlay_.begin(), shownOverlay_.end(), IsSameLine);
-  if (isShown) return;
+  if (box_.picture.Revision() == shownRevision_ && box_.picture.overlay == shownOverlay_) return;
   FitToPicture();
   repaint();
 }
@@ -102,11 +93,21 @@ void PictureWidget::paintEvent(QPaintEvent*) {
 }
 
 void PictureWidget::DrawOverlay(QPainter& painter) const {
-  for (const OverlayLine& line : box_.picture.overlay) {
-    const Pixel from = box_.picture.ToPixel(line.x0, line.y0);
-    const Pixel to = box_.picture.ToPixel(line.x1, line.y1);
-    painter.setPen(ToQt(line.colour));
-    painter.drawLine(from.x, from.y, to.x, to.y);
+  for (const OverlayShape& shape : box_.picture.overlay) {
+    const Pixel from = box_.picture.ToPixel(shape.x0, shape.y0);
+    const Pixel to = box_.picture.ToPixel(shape.x1, shape.y1);
+    painter.setPen(ToQt(shape.colour));
+    switch (shape.form) {
+      case OverlayShape::Form::Line:
+        painter.drawLine(from.x, from.y, to.x, to.y);
+        break;
+      case OverlayShape::Form::Rectangle:
+        painter.drawRect(QRect(QPoint(from.x, from.y), QPoint(to.x, to.y)).normalized());
+        break;
+      case OverlayShape::Form::Ellipse:
+        painter.drawEllipse(QRect(QPoint(from.x, from.y), QPoint(to.x, to.y)).normalized());
+        break;
+    }
   }
 }
 

@@ -65,7 +65,7 @@ class PictureWidget : public QWidget, public ControlView {
   Click moveClick_;
   bool wasShown_ = false;
   std::uint64_t shownRevision_ = 0;
-  std::vector<OverlayLine> shownOverlay_;
+  std::vector<OverlayShape> shownOverlay_;
 };
 
 }  // namespace pelorium

@@ -1,20 +1,9 @@
 // The turning step of the generators.
 #pragma once
 
-#include <cmath>
-
-#include "base/numbers.h"
+#include "core/turn.h"
 
 namespace pelorium {
-
-// Sine and cosine of an angle, taken once for all the points that turn by it.
-struct Turn {
-  double sine = 0, cosine = 1;
-
-  static Turn By(double degrees) {
-    return {std::sin(degrees * kRadiansPerDegree), std::cos(degrees * kRadiansPerDegree)};
-  }
-};
 
 // Turns the pair (a, b) about (ca, cb) and reflects it: at 0 degrees a stays and b flips about cb. The
 // generators' sequences are built on the reflection, which cancels in pairs.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "base/fault.h"
 
@@ -45,8 +46,15 @@ void Picture::Resize(int width, int height) {
 void Picture::Clear() {
   calls_.clear();
   cleared_ = true;
+  source_ = nullptr;
   ground_ = backColour;
+  groundBackdrop_ = backdrop_;
   ++revision_;
+}
+
+void Picture::TakeFrom(std::shared_ptr<PixelSource> source) {
+  Clear();
+  source_ = std::move(source);
 }
 
 void Picture::Line(float x0, float y0, float x1, float y1, Colour colour) {
@@ -93,9 +101,26 @@ void Picture::SetPixels(const std::vector<std::uint32_t>& pixels) {
   ++revision_;
 }
 
+void Picture::FillGround() const {
+  std::fill(pixels_.begin(), pixels_.end(), ground_);
+  if (!groundBackdrop_) return;
+  const Backdrop& image = *groundBackdrop_;
+  const int left = std::max(0, image.left), right = std::min(width_, image.left + image.width);
+  if (left >= right) return;
+  for (int y = std::max(0, image.top); y < std::min(height_, image.top + image.height); ++y) {
+    const std::size_t from = static_cast<std::size_t>(y - image.top) * static_cast<std::size_t>(image.width) +
+                             static_cast<std::size_t>(left - image.left);
+    const std::size_t to = static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                           static_cast<std::size_t>(left);
+    std::copy_n(image.pixels.begin() + static_cast<std::ptrdiff_t>(from), right - left,
+                pixels_.begin() + static_cast<std::ptrdiff_t>(to));
+  }
+}
+
 void Picture::Rasterise() const {
-  if (cleared_) std::fill(pixels_.begin(), pixels_.end(), ground_);
+  if (cleared_ && !source_) FillGround();
   cleared_ = false;
+  if (source_) std::exchange(source_, nullptr)->Fill(pixels_.data(), width_, height_);
   const PixelGrid grid{pixels_.data(), width_, height_};
   for (const Call& call : calls_) {
     if (call.isDot) {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "base/colour.h"
@@ -10,10 +12,29 @@
 
 namespace pelorium {
 
-// A line shown over the picture and not part of it; in user units.
-struct OverlayLine {
+// A shape shown over the picture and not part of it; in user units. A rectangle and an ellipse have the two
+// points as opposite corners.
+struct OverlayShape {
+  enum class Form { Line, Rectangle, Ellipse };
   float x0, y0, x1, y1;
   Colour colour;
+  Form form = Form::Line;
+  bool operator==(const OverlayShape&) const = default;
+};
+
+// Works the pixels of a picture out when they are asked for: for pictures that are dear to make.
+class PixelSource {
+ public:
+  virtual ~PixelSource() = default;
+  // Row by row from the top, as the picture holds them.
+  virtual void Fill(std::uint32_t* pixels, int width, int height) = 0;
+};
+
+// An image that lies on the ground of a picture, under everything drawn. Left and top in pixels.
+struct Backdrop {
+  int width = 0, height = 0;
+  std::vector<std::uint32_t> pixels;  // row by row from the top
+  int left = 0, top = 0;
 };
 
 // Calls are recorded with their pixel positions as they come and drawn when the pixels are asked for. A
@@ -36,8 +57,16 @@ class Picture {
   // Gives the picture new pixels in its background colour; the scale stays.
   void Resize(int width, int height);
 
-  // Fills with the background colour as it is now.
+  // Fills with the background colour and the backdrop as they are now.
   void Clear();
+
+  // From the next Clear on; null takes it away.
+  void SetBackdrop(std::shared_ptr<const Backdrop> backdrop) { backdrop_ = std::move(backdrop); }
+  bool HasBackdrop() const { return backdrop_ != nullptr; }
+
+  // Replaces all that was drawn: the pixels come from `source` when they are next asked for, unless the picture
+  // is cleared before.
+  void TakeFrom(std::shared_ptr<PixelSource> source);
 
   // A line in the pen's width: the pixel of its start is set, that of its end is not. Width 1 is an integer
   // DDA along the longer axis.
@@ -75,7 +104,7 @@ class Picture {
   Colour backColour = Rgb(64, 64, 64);
   int drawWidth = 1;
 
-  std::vector<OverlayLine> overlay;
+  std::vector<OverlayShape> overlay;
 
  private:
   struct Call {
@@ -88,13 +117,16 @@ class Picture {
   std::int16_t StoredWidth() const;
   void Record(const Call& call);
   void Rasterise() const;
+  void FillGround() const;
 
   int width_, height_;
   double scaleWidth_, scaleHeight_;
   mutable std::vector<std::uint32_t> pixels_;
   mutable std::vector<Call> calls_;
   mutable bool cleared_ = true;  // the ground is to be filled before the calls
+  mutable std::shared_ptr<PixelSource> source_;  // and then these pixels taken
   Colour ground_ = Rgb(64, 64, 64);
+  std::shared_ptr<const Backdrop> backdrop_, groundBackdrop_;
   std::uint64_t revision_ = 0;
 };
 

@@ -1,19 +1,11 @@
 // Edits of a block of profile points.
 #include "profiles/edit_profile_range.h"
 
-#include <cmath>
-
-#include "base/numbers.h"
+#include "core/turn.h"
 
 namespace pelorium {
 
 namespace {
-
-// A profile point and a pivot name their coordinates alike.
-template <typename Place>
-auto& At(Place& place, BlockAxis axis) {
-  return axis == BlockAxis::X ? place.X : axis == BlockAxis::Y ? place.Y : place.Z;
-}
 
 ProfileBlock EveryPoint(ProfileBlock block) {
   block.pointStep = 1;
@@ -31,28 +23,29 @@ void ForEachPoint(const ProfileBlock& block, Act act) {
 
 void MoveBlock(ModelStore& model, const ProfileBlock& block, const BlockAxes& axes, double by) {
   ForEachPoint(block, [&](int i, int profile) {
-    for (const BlockAxis axis : axes) At(model.ProfilePts(i, profile), axis) += by;
+    for (const Axis axis : axes) Coordinate(model.ProfilePts(i, profile), axis) += by;
   });
 }
 
 void ScaleBlock(ModelStore& model, const ProfileBlock& block, const BlockAxes& axes, double factor,
                 const Vec3& pivot) {
   ForEachPoint(block, [&](int i, int profile) {
-    for (const BlockAxis axis : axes) {
-      double& coordinate = At(model.ProfilePts(i, profile), axis);
-      coordinate = At(pivot, axis) + (coordinate - At(pivot, axis)) * factor;
+    for (const Axis axis : axes) {
+      double& coordinate = Coordinate(model.ProfilePts(i, profile), axis);
+      coordinate = Coordinate(pivot, axis) + (coordinate - Coordinate(pivot, axis)) * factor;
     }
   });
 }
 
-void TurnBlock(ModelStore& model, const ProfileBlock& block, BlockAxis p, BlockAxis q, double degrees,
+void TurnBlock(ModelStore& model, const ProfileBlock& block, Axis p, Axis q, double degrees,
                const Vec3& pivot) {
-  const double a = degrees * kRadiansPerDegree;
+  const Turn turn = Turn::By(degrees);
   ForEachPoint(block, [&](int i, int profile) {
     ProfilePointRec& point = model.ProfilePts(i, profile);
-    const double tp = At(point, p) - At(pivot, p), tq = At(point, q) - At(pivot, q);
-    At(point, p) = std::cos(a) * tp + std::sin(a) * tq + At(pivot, p);
-    At(point, q) = std::cos(a) * tq - std::sin(a) * tp + At(pivot, q);
+    double tp = Coordinate(point, p) - Coordinate(pivot, p), tq = Coordinate(point, q) - Coordinate(pivot, q);
+    turn.Apply(tp, tq);
+    Coordinate(point, p) = tp + Coordinate(pivot, p);
+    Coordinate(point, q) = tq + Coordinate(pivot, q);
   });
 }
 
@@ -62,9 +55,9 @@ void CopyToBlock(ModelStore& model, const ProfileBlock& block, int source) {
   });
 }
 
-void SpaceBlock(ModelStore& model, const ProfileBlock& block, BlockAxis axis, double spacing) {
+void SpaceBlock(ModelStore& model, const ProfileBlock& block, Axis axis, double spacing) {
   ForEachPoint(EveryPoint(block), [&](int i, int profile) {
-    At(model.ProfilePts(i, profile), axis) += (profile - block.firstProfile) * spacing;
+    Coordinate(model.ProfilePts(i, profile), axis) += (profile - block.firstProfile) * spacing;
   });
 }
 

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "core/axes.h"
 #include "core/model_store.h"
 
 namespace pelorium {
@@ -15,8 +16,7 @@ struct ProfileBlock {
   int pointStep = 1;
 };
 
-enum class BlockAxis { X, Y, Z };
-using BlockAxes = std::vector<BlockAxis>;
+using BlockAxes = std::vector<Axis>;
 
 // Adds to the given coordinates of every point.
 void MoveBlock(ModelStore& model, const ProfileBlock& block, const BlockAxes& axes, double by);
@@ -26,13 +26,13 @@ void ScaleBlock(ModelStore& model, const ProfileBlock& block, const BlockAxes& a
                 const Vec3& pivot = {});
 
 // Turns every point about the pivot in the plane of two axes p, q: p := p cos + q sin, q := q cos - p sin.
-void TurnBlock(ModelStore& model, const ProfileBlock& block, BlockAxis p, BlockAxis q, double degrees,
+void TurnBlock(ModelStore& model, const ProfileBlock& block, Axis p, Axis q, double degrees,
                const Vec3& pivot);
 
 // X, Y, Z of the points become those of profile `source`. All points from first to last, whatever the step.
 void CopyToBlock(ModelStore& model, const ProfileBlock& block, int source);
 
 // Moves each profile by `spacing` more than the one before; the first stays. All points, whatever the step.
-void SpaceBlock(ModelStore& model, const ProfileBlock& block, BlockAxis axis, double spacing);
+void SpaceBlock(ModelStore& model, const ProfileBlock& block, Axis axis, double spacing);
 
 }  // namespace pelorium

@@ -27,7 +27,9 @@
 #include "windows/help_me.h"
 #include "windows/mdi_form1.h"
 #include "windows/revolveprof_revolve_profile.h"
+#include "windows/shaded_view.h"
 #include "windows/specialeffects1_special_effects.h"
+#include "windows/specialeffects5_edit_geometry.h"
 
 namespace pelorium {
 
@@ -94,6 +96,7 @@ WindowType& App::Add() {
 App::App(Platform& platformToUse, const std::filesystem::path& path)
     : platform(platformToUse),
       applicationPath(std::filesystem::absolute(path).lexically_normal()),
+      shadedView(std::make_unique<ShadedView>(*this)),
       frmSplash(Add<FrmSplash>()),
       mdiForm1(Add<MDIForm1>()),
       form51(Add<Form51>()),
@@ -107,6 +110,7 @@ App::App(Platform& platformToUse, const std::filesystem::path& path)
       form55(Add<Form55>()),
       freeface(Add<FreeFace>()),
       specialeffects1(Add<SpecialEffects1>()),
+      specialeffects5(Add<SpecialEffects5>()),
       form31(Add<Form31>()),
       form14(Add<Form14>()),
       helpme(Add<HelpMe>()),

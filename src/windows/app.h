@@ -12,7 +12,9 @@
 #include "controls/user_event.h"
 #include "controls/window.h"
 #include "core/model_store.h"
+#include "graphics/gl_surface.h"
 #include "platform/platform.h"
+#include "views/shaded_settings.h"
 
 namespace pelorium {
 
@@ -33,13 +35,9 @@ class FrmSplash;
 class HelpMe;
 class MDIForm1;
 class RevolveProf;
+class ShadedView;
 class SpecialEffects1;
-
-// The pose of the shaded picture: turns in degrees and moves, as the GL matrix takes them.
-struct ShadedPose {
-  float RotX = 90, RotY = 0, RotZ = 0;
-  double ShadeMoveX = 0, ShadeMoveY = 0, ShadeMoveZ = 0;
-};
+class SpecialEffects5;
 
 class App {
  public:
@@ -69,6 +67,9 @@ class App {
 
   int TessCount = 1;  // number of the next free point while a mesh is clicked together
   ShadedPose shadedPose;
+  // Asked for a place to draw the shaded picture on when one is first needed.
+  GlOpener openGl = OpenEglSurface;
+  const std::unique_ptr<ShadedView> shadedView;
   bool started = false;  // the load of the main frame is over
   bool exitRequested = false;
 
@@ -99,6 +100,7 @@ class App {
   Form55& form55;
   FreeFace& freeface;
   SpecialEffects1& specialeffects1;
+  SpecialEffects5& specialeffects5;
   Form31& form31;
   Form14& form14;
   HelpMe& helpme;

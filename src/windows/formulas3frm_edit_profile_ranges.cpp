@@ -61,7 +61,7 @@ void Formulas3Frm::BindEdit(PushButton& button, Edit edit) {
 }
 
 void Formulas3Frm::BindEdits() {
-  using enum BlockAxis;
+  using enum Axis;
   ModelStore& model = app_.model;
   for (auto [button, axis] : {std::pair{&Command1, X}, {&Command2, Y}, {&Command3, Z}}) {
     BindEdit(*button, [this, &model, axis](const ProfileBlock& block, bool back) {
@@ -75,7 +75,7 @@ void Formulas3Frm::BindEdits() {
   }
   struct Turning {
     PushButton* button;
-    BlockAxis p, q;
+    Axis p, q;
   };
   for (const Turning& t :
        std::initializer_list<Turning>{{&Command4, X, Y}, {&Command5, Y, Z}, {&Command6, X, Z}}) {

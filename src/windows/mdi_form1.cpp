@@ -87,6 +87,7 @@ void MDIForm1::PlaceWindows() {
                                                          {"Form55", 10, 0},
                                                          {"freeface", 10, 0},
                                                          {"specialeffects1", 10, 0},
+                                                         {"specialeffects5", 10, 0},
                                                          {"editbyface", 10, 0},
                                                          {"Form36", 4300, 0},
                                                          {"revolveprof", 0, 10},

@@ -37,7 +37,7 @@ void ProfileDrag::Drag(const MouseEvent& event) {
 }
 
 void ProfileDrag::Apply(const ProfileBlock& block, double dx, double dy) {
-  using enum BlockAxis;
+  using enum Axis;
   ModelStore& model = app_.model;
   const bool isRight = last_.button == MouseButton::Right;
   if (turns_.value() || scales_.value()) {

@@ -6,7 +6,7 @@
 namespace pelorium {
 namespace {
 
-using enum BlockAxis;
+using enum Axis;
 
 class ProfileBlockEdit : public ::testing::Test {
  protected:
