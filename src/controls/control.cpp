@@ -10,9 +10,9 @@
 namespace pelorium {
 
 std::string_view ControlKindName(ControlKind kind) {
-  static constexpr std::array<std::string_view, 14> kNames = {
+  static constexpr std::array<std::string_view, 15> kNames = {
       "ScrollBar", "TextBox", "Label", "PushButton", "CheckBox", "OptionButton", "PictureBox",
-      "ListBox", "FileList", "DirList", "ProgressBar", "RichTextBox", "MenuItem", "Frame"};
+      "ListBox", "FileList", "DirList", "ProgressBar", "RichTextBox", "MenuItem", "Frame", "Shape"};
   return kNames[static_cast<std::size_t>(kind)];
 }
 

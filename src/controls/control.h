@@ -12,7 +12,7 @@ class Window;
 
 enum class ControlKind {
   ScrollBar, TextBox, Label, PushButton, CheckBox, OptionButton, PictureBox, ListBox, FileList, DirList,
-  ProgressBar, RichTextBox, MenuItem, Frame,
+  ProgressBar, RichTextBox, MenuItem, Frame, Shape,
 };
 
 std::string_view ControlKindName(ControlKind kind);

@@ -15,7 +15,8 @@ struct Turn {
     return {std::sin(degrees * kRadiansPerDegree), std::cos(degrees * kRadiansPerDegree)};
   }
 
-  // p' = p cos + q sin, q' = q cos - p sin. The other sense is the turn by the negative angle, to the last digit.
+  // p' = p cos + q sin, q' = q cos - p sin. The other sense is the turn by the negative angle, to the last
+  // digit.
   void Apply(double& p, double& q) const {
     const double p0 = p;
     p = p0 * cosine + q * sine;

@@ -158,7 +158,9 @@ QWidget* LayoutBuilder::MakeStandAlone(const LayoutItem& item, QWidget* parent) 
   auto* layout = WithoutMargins(new QHBoxLayout(holder));
   QLabel* label = MakeText(item.title, holder);
   layout->addWidget(label);
-  for (Control* control : item.controls) layout->addWidget(MakeControl(*control, holder));
+  for (Control* control : item.controls) {
+    layout->addWidget(MakeControl(*control, holder), control->kind() == ControlKind::ScrollBar ? 1 : 0);
+  }
   PutBefore(label, *item.controls.at(0));
   return holder;
 }

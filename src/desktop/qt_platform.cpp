@@ -6,14 +6,19 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileDialog>
+#include <QImage>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QTextDocument>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstdint>
+#include <iterator>
+#include <vector>
 
 #include "desktop/file_filters.h"
 #include "desktop/journal.h"
@@ -22,6 +27,8 @@
 namespace pelorium {
 
 namespace {
+
+constexpr std::uint32_t kColourMask = 0x00FFFFFF;
 
 // The nearest folder above that exists: a dialog that starts nowhere shows the toolkit's own guess.
 QString StartFolder(const std::filesystem::path& wanted) {
@@ -68,6 +75,27 @@ void QtPlatform::RunModal(Window& window) {
 void QtPlatform::SetClipboardText(const std::string& text) { QApplication::clipboard()->setText(ToQt(text)); }
 
 std::string QtPlatform::ClipboardText() { return FromQt(QApplication::clipboard()->text()); }
+
+void QtPlatform::SetClipboardPicture(const Picture& picture) {
+  const int width = picture.PixelWidth(), height = picture.PixelHeight();
+  const auto* pixels = reinterpret_cast<const uchar*>(picture.Pixels().data());
+  const QImage image(pixels, width, height, width * 4, QImage::Format_RGBX8888);
+  QApplication::clipboard()->setImage(image.convertToFormat(QImage::Format_RGB32));  // a copy
+}
+
+std::optional<Picture> QtPlatform::ClipboardPicture() {
+  const QImage image = QApplication::clipboard()->image().convertToFormat(QImage::Format_RGBX8888);
+  if (image.isNull()) return std::nullopt;
+  Picture picture(image.width(), image.height());
+  std::vector<std::uint32_t> pixels;
+  for (int y = 0; y < picture.PixelHeight(); ++y) {
+    const auto* row = reinterpret_cast<const std::uint32_t*>(image.constScanLine(y));
+    std::transform(row, row + picture.PixelWidth(), std::back_inserter(pixels),
+                   [](std::uint32_t pixel) { return pixel & kColourMask; });
+  }
+  picture.SetPixels(pixels);
+  return picture;
+}
 
 void QtPlatform::Print(const std::string& text) {
   QPrinter printer;

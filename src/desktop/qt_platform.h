@@ -23,6 +23,8 @@ class QtPlatform : public Platform {
   void RunModal(Window& window) override;
   void SetClipboardText(const std::string& text) override;
   std::string ClipboardText() override;
+  void SetClipboardPicture(const Picture& picture) override;
+  std::optional<Picture> ClipboardPicture() override;
   void Print(const std::string& text) override;
   void OpenInBrowser(const std::string& address) override;
   bool StartSystemInformation() override;

@@ -38,6 +38,7 @@ ControlView* MakeView(Control& control, Qt::Orientation orientation, Dispatcher&
     case ControlKind::RichTextBox:
       return new RichTextWidget(static_cast<RichTextBox&>(control), dispatcher, parent);
     case ControlKind::MenuItem:
+    case ControlKind::Shape:
       break;
   }
   return nullptr;

@@ -1,11 +1,13 @@
-// OpenGL 1.1 in immediate mode, as far as the shaded view uses it: a seam between what is drawn and what draws it.
+// OpenGL 1.1 in immediate mode, as far as the shaded view uses it: a seam between what is drawn and what
+// draws it.
 #pragma once
 
 namespace pelorium {
 
 enum class GlShape { Points, Lines, Triangles };
 
-// The calls mean what OpenGL's of the same name mean; lengths in model units, angles in degrees, colours 0..1.
+// The calls mean what OpenGL's of the same name mean; lengths in model units, angles in degrees, colours
+// 0..1.
 class Gl {
  public:
   virtual ~Gl() = default;

@@ -110,8 +110,8 @@ void Picture::FillGround() const {
   for (int y = std::max(0, image.top); y < std::min(height_, image.top + image.height); ++y) {
     const std::size_t from = static_cast<std::size_t>(y - image.top) * static_cast<std::size_t>(image.width) +
                              static_cast<std::size_t>(left - image.left);
-    const std::size_t to = static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
-                           static_cast<std::size_t>(left);
+    const std::size_t to =
+        static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(left);
     std::copy_n(image.pixels.begin() + static_cast<std::ptrdiff_t>(from), right - left,
                 pixels_.begin() + static_cast<std::ptrdiff_t>(to));
   }

@@ -62,10 +62,10 @@ class Picture {
 
   // From the next Clear on; null takes it away.
   void SetBackdrop(std::shared_ptr<const Backdrop> backdrop) { backdrop_ = std::move(backdrop); }
-  bool HasBackdrop() const { return backdrop_ != nullptr; }
+  const std::shared_ptr<const Backdrop>& backdrop() const { return backdrop_; }
 
-  // Replaces all that was drawn: the pixels come from `source` when they are next asked for, unless the picture
-  // is cleared before.
+  // Replaces all that was drawn: the pixels come from `source` when they are next asked for, unless the
+  // picture is cleared before.
   void TakeFrom(std::shared_ptr<PixelSource> source);
 
   // A line in the pen's width: the pixel of its start is set, that of its end is not. Width 1 is an integer
@@ -123,7 +123,7 @@ class Picture {
   double scaleWidth_, scaleHeight_;
   mutable std::vector<std::uint32_t> pixels_;
   mutable std::vector<Call> calls_;
-  mutable bool cleared_ = true;  // the ground is to be filled before the calls
+  mutable bool cleared_ = true;                  // the ground is to be filled before the calls
   mutable std::shared_ptr<PixelSource> source_;  // and then these pixels taken
   Colour ground_ = Rgb(64, 64, 64);
   std::shared_ptr<const Backdrop> backdrop_, groundBackdrop_;

@@ -16,6 +16,11 @@ std::string HeadlessPlatform::AskFileName(const FileDialogRequest& request) {
   return answer;
 }
 
+void HeadlessPlatform::SetClipboardPicture(const Picture& picture) {
+  picture.Pixels();  // what is drawn by now, and not what its source would give later
+  clipboardPicture_ = picture;
+}
+
 void HeadlessPlatform::RunModal(Window& window) {
   window.Show();
   if (onModal) onModal(window);

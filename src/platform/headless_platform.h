@@ -29,6 +29,8 @@ class HeadlessPlatform : public Platform {
   void RunModal(Window& window) override;
   void SetClipboardText(const std::string& text) override { clipboard_ = text; }
   std::string ClipboardText() override { return clipboard_; }
+  void SetClipboardPicture(const Picture& picture) override;
+  std::optional<Picture> ClipboardPicture() override { return clipboardPicture_; }
   void Print(const std::string& text) override { printed_ = text; }
   void OpenInBrowser(const std::string& address) override { visited_ = address; }
   bool StartSystemInformation() override { return false; }
@@ -42,6 +44,7 @@ class HeadlessPlatform : public Platform {
   std::vector<std::string> messages_;
   std::vector<FileDialogRequest> dialogs_;
   std::string clipboard_, printed_, visited_;
+  std::optional<Picture> clipboardPicture_;
 };
 
 }  // namespace pelorium

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
+
+#include "graphics/picture.h"
 
 namespace pelorium {
 
@@ -28,6 +31,9 @@ class Platform {
 
   virtual void SetClipboardText(const std::string& text) = 0;
   virtual std::string ClipboardText() = 0;
+  virtual void SetClipboardPicture(const Picture& picture) = 0;
+  // Empty when the clipboard holds no picture.
+  virtual std::optional<Picture> ClipboardPicture() = 0;
   virtual void Print(const std::string& text) = 0;
   virtual void OpenInBrowser(const std::string& address) = 0;
   // Starts the machine's own system information tool; false when there is none.

@@ -3,22 +3,33 @@
 
 #include <algorithm>
 
+#include "core/axes.h"
+
 namespace pelorium {
 
 namespace {
 
-void Place(ProfilePointRec& point, const ProfileClick& click) {
-  switch (click.plane) {
+struct PlaneAxes {
+  Axis across, up, third;
+};
+
+constexpr PlaneAxes AxesOf(ProfilePlane plane) {
+  switch (plane) {
     case ProfilePlane::XZ:
-      point.X = click.across, point.Z = click.up, point.Y = click.third;
-      return;
+      return {Axis::X, Axis::Z, Axis::Y};
     case ProfilePlane::XY:
-      point.X = click.across, point.Y = click.up, point.Z = click.third;
-      return;
+      return {Axis::X, Axis::Y, Axis::Z};
     case ProfilePlane::ZY:
-      point.Z = click.across, point.Y = click.up, point.X = click.third;
-      return;
+      return {Axis::Z, Axis::Y, Axis::X};
   }
+  return {Axis::X, Axis::Z, Axis::Y};
+}
+
+void Place(ProfilePointRec& point, const ProfileClick& click, MovedAxes moved = {}) {
+  const PlaneAxes axes = AxesOf(click.plane);
+  if (moved.across) Coordinate(point, axes.across) = click.across;
+  if (moved.up) Coordinate(point, axes.up) = click.up;
+  Coordinate(point, axes.third) = click.third;
 }
 
 }  // namespace
@@ -32,6 +43,14 @@ int DrawProfilePoint(ModelStore& model, int profile, const ProfileClick& click) 
     Place(model.ProfilePts(slot + 1, profile), click);
   }
   return slot;
+}
+
+void MoveProfilePoint(ModelStore& model, int profile, int layer, const ProfileClick& click, MovedAxes moved) {
+  Place(model.ProfilePts(layer, profile), click, moved);
+}
+
+double ThirdCoordinate(ProfilePlane plane, const ProfilePointRec& point) {
+  return Coordinate(point, AxesOf(plane).third);
 }
 
 }  // namespace pelorium

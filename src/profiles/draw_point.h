@@ -24,4 +24,16 @@ struct ProfileClick {
 // to (0, 0, 0). At 36 the last point is written over.
 int DrawProfilePoint(ModelStore& model, int profile, const ProfileClick& click);
 
+// What moves of a point that is dragged.
+struct MovedAxes {
+  bool across = true, up = true;
+};
+
+// Puts point `layer` where the click is; an axis that does not move keeps its coordinate. `advances` plays no
+// part.
+void MoveProfilePoint(ModelStore& model, int profile, int layer, const ProfileClick& click, MovedAxes moved);
+
+// The coordinate that the plane does not show.
+double ThirdCoordinate(ProfilePlane plane, const ProfilePointRec& point);
+
 }  // namespace pelorium

@@ -8,6 +8,7 @@
 #include "windows/form31_project_files.h"
 #include "windows/form36_view.h"
 #include "windows/freeface_free_faces.h"
+#include "windows/image_commands.h"
 #include "windows/mdi_form1.h"
 #include "windows/quick_save.h"
 #include "windows/revolveprof_revolve_profile.h"
@@ -146,10 +147,12 @@ const std::vector<MenuCommand>& MenuCommands() {
       {"eraseitya", "Erase all ", "erase", Run},
 
       {"", "Image  |", "imageops"},
-      {"imageops", "Clear image", "clearimage", Run},
-      {"imageops", "Send to clipboard model wireframe image (foreground)", "senittoboard", Run},
-      {"imageops", "Send to clipboard painted image  (background image)", "senditclip", Run},
-      {"imageops", "Get from Clipboard (to background image)", "getitclip", Run},
+      {"imageops", "Clear image", "clearimage", Run, "", ClearImage},
+      {"imageops", "Send to clipboard model wireframe image (foreground)", "senittoboard", Run, "",
+       SendForeground},
+      {"imageops", "Send to clipboard painted image  (background image)", "senditclip", Run, "",
+       SendBackground},
+      {"imageops", "Get from Clipboard (to background image)", "getitclip", Run, "", GetBackground},
       {"imageops", "Draw Greylevels (background image)", "editgrays", Show, "Specialeffects3"},
       {"imageops", "Graylevel Plasma (background image)", "plasmait", Show, "Plasma"},
       {"imageops", "Perlin Noise (background)", "perlinit", Show, "frmPerlinNoise"},

@@ -12,6 +12,7 @@
 #include "windows/form5_precise_edit.h"
 #include "windows/freeface_free_faces.h"
 #include "windows/shared_parameters.h"
+#include "windows/specialeffects5_edit_geometry.h"
 
 namespace pelorium {
 
@@ -35,17 +36,22 @@ void FollowFaces(App& app) {
   app.form51.HScroll5.SetMax(faces);
   app.form51.HScroll5.SetValue(faces);
   app.editbyface.FollowCounts(part.maxpoints, faces);
+  app.specialeffects5.FollowFaceRange();
   app.freeface.Text16.SetText(std::to_string(part.maxfaces));
+}
+
+void FollowPoints(App& app) {
+  const int points = app.model.Part(CurrentPart(app)).maxpoints;
+  app.form5.HScroll25.SetMax(points);
+  app.form5.HScroll25.SetValue(points);
+  FollowMax(app.form5.HScroll20, std::max(1, points), 1);
 }
 
 void FollowCounts(App& app) {
   const HoldAutomaticActions hold(app);
   FollowFaces(app);
   app.form51.HScroll7.SetValue(1);
-  const int points = app.model.Part(CurrentPart(app)).maxpoints;
-  app.form5.HScroll25.SetMax(points);
-  app.form5.HScroll25.SetValue(points);
-  FollowMax(app.form5.HScroll20, std::max(1, points), 1);
+  FollowPoints(app);
   app.form51.Label3.SetCaption(CountCaption(app.model, CurrentPart(app)));
 }
 

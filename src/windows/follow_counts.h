@@ -13,6 +13,9 @@ void FollowCounts(App& app);
 // The face half of it: the choices of faces end at the last one, their start stays.
 void FollowFaces(App& app);
 
+// The point half: the chosen points end at the last one, a start that lies outside goes back to the first.
+void FollowPoints(App& app);
+
 // "Pts/ layer" follows the Part's Sections + 1.
 void FollowSections(App& app);
 // The same, and the bar opens to the widest ring first.

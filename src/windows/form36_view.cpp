@@ -1,16 +1,14 @@
 // The "View and edit window".
 #include "windows/form36_view.h"
 
-#include <algorithm>
-#include <cmath>
+#include <memory>
 #include <string>
+#include <utility>
 
-#include "base/numbers.h"
 #include "views/zoom.h"
 #include "windows/app.h"
 #include "windows/command_table.h"
 #include "windows/form51_view_options.h"
-#include "windows/formulas_edit_profile.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
 
@@ -18,17 +16,37 @@ namespace pelorium {
 
 namespace {
 
-constexpr int kLengthDecimals = 2;
-constexpr Colour kNextLineColour = Rgb(250, 0, 0);
+// A step of the buttons that turn and move the shaded picture: degrees or model units.
+constexpr double kPoseStep = 15;
 
-std::string WholeText(double value) { return GeneralForm(std::floor(value)); }
+struct PoseButton {
+  const char *name, *caption, *toolTip;
+  float ShadedPose::*turn;
+  double ShadedPose::*move;
+};
+
+constexpr PoseButton kPoseButtons[] = {
+    {"Command27", "Z", "shaded view: turns about Z, right button by 15 degrees, left button back",
+     &ShadedPose::RotZ, nullptr},
+    {"Command28", "Y", "shaded view: tilts (about X), right button by 15 degrees, left button back",
+     &ShadedPose::RotX, nullptr},
+    {"Command29", "X", "shaded view: spins (about Y), right button by 15 degrees, left button back",
+     &ShadedPose::RotY, nullptr},
+    {"Command30", "X", "shaded view: moves across, right button by 15 units, left button back", nullptr,
+     &ShadedPose::ShadeMoveX},
+    {"Command31", "Y", "shaded view: moves up, right button by 15 units, left button back", nullptr,
+     &ShadedPose::ShadeMoveY},
+    {"Command32", "Z", "shaded view: moves into the picture, right button by 15 units, left button back",
+     nullptr, &ShadedPose::ShadeMoveZ},
+};
 
 }  // namespace
 
-Form36::Form36(App& app) : Window(app.host, "Form36", "View and edit window"), app_(app) {
+Form36::Form36(App& app) : Window(app.host, "Form36", "View and edit window"), mouse(app), app_(app) {
   Picture1.followsWindow = true;
-  Picture1.onMouseDown = [this](const MouseEvent& event) { Picture1_MouseDown(event); };
-  Picture1.onMouseMove = [this](const MouseEvent& event) { Picture1_MouseMove(event); };
+  Picture1.onMouseDown = [this](const MouseEvent& event) { mouse.Down(event); };
+  Picture1.onMouseMove = [this](const MouseEvent& event) { mouse.Move(event); };
+  Picture1.onMouseUp = [this](const MouseEvent&) { mouse.Up(); };
   Picture1.onResize = [this](int width, int height) { Picture1_Resize(width, height); };
   Picture1.onKey = [this](char character) { Picture1_KeyPress(character); };
   Picture1.picture.SetScale(15, -15);
@@ -37,24 +55,45 @@ Form36::Form36(App& app) : Window(app.host, "Form36", "View and edit window"), a
   for (ScrollBar* pan : {&HScroll1, &VScroll1}) pan->onChange = [this] { RefreshViews(app_); };
   Command12.onClick = [this](const Click& click) { ZoomByButton(click); };
   Home.onClick = [this](const Click&) { ResetView(); };
-  // What the mouse does in these modes is still to come.
-  for (OptionButton* mode : {&Option7, &Option8, &Option9, &Option10, &Option11, &Option1}) {
-    mode->SetEnabled(false);
+  for (auto [pan, box] : {std::pair{&HScroll2, &Text1}, {&VScroll2, &Text2}}) {
+    Pair(*pan, *box);
+    pan->onChange = [this] { MoveBackground(); };
   }
+  MakePoseButtons();
   commandRow = MakeCommandRow(*this);
   SetLayout(DeclareLayout());
+}
+
+void Form36::MakePoseButtons() {
+  for (const PoseButton& row : kPoseButtons) {
+    poseButtons.push_back(std::make_unique<PushButton>(*this, row.name, row.caption, row.toolTip));
+    poseButtons.back()->onClick = [this, &row](const Click& click) {
+      const double step = click.IsRight() ? kPoseStep : -kPoseStep;
+      if (row.turn != nullptr) app_.shadedPose.*row.turn += static_cast<float>(step);
+      if (row.move != nullptr) app_.shadedPose.*row.move += step;
+      RefreshViews(app_);
+    };
+  }
 }
 
 LayoutItem Form36::DeclareLayout() {
   std::vector<Control*> row;
   for (const auto& button : commandRow) row.push_back(button.get());
+  std::vector<LayoutItem> totals = {Labelled("totalpoints", Label39),
+                                    Labelled("total tri faces, Part 0", Label47),
+                                    Labelled("Part 1", Label49)};
+  for (std::size_t i = 0; i < poseButtons.size(); ++i) {
+    if (i == 0) totals.push_back(Single(turnLabel));
+    if (i == poseButtons.size() / 2) totals.push_back(Single(moveLabel));
+    totals.push_back(Single(*poseButtons[i]));
+  }
   return Column({
       Flow(std::move(row)),
       Flow({&Option7, &Option8, &Option9, &Option10, &Option11, &Option1, &Command12, &Home}),
       Row({Single(Label54), Labelled("Layer or Point:", Label16), Labelled("loc x", Label4),
            Labelled("loc y (or z)", Label5), Labelled("length", Label13)}),
-      Row({Labelled("totalpoints", Label39), Labelled("total tri faces, Part 0", Label47),
-           Labelled("Part 1", Label49)}),
+      Row(std::move(totals)),
+      Row({BarRow(HScroll2, {&Text1}), BarRow(VScroll2, {&Text2}), Labelled("grey level", Label53)}),
       Stretching(Row({Stretching(Single(Picture1)), Single(VScroll1)})),
       Single(HScroll1),
   });
@@ -96,9 +135,25 @@ void Form36::ZoomByButton(const Click& click) {
   RefreshViews(app_);  // the pans may both stand at their limits
 }
 
+// m arms Move, and Move Origin when Move is armed already; a letter of an armed mode disarms it.
 void Form36::Picture1_KeyPress(char character) {
-  if (character != '-') return;
-  if (Zoom(Picture1.picture, kZoomOutGently)) RefreshViews(app_);
+  switch (character) {
+    case 'm':
+      return (Option7.value() ? Option11 : Option7).SetValue(true);
+    case 'r':
+      return Option8.Press({});
+    case 's':
+      return Option9.Press({});
+    case 'p':
+      return Option10.Press({});
+    case 'o':
+      return Option1.Press({});
+    case '-':
+      if (Zoom(Picture1.picture, kZoomOutGently)) RefreshViews(app_);
+      return;
+    default:
+      return;
+  }
 }
 
 void Form36::ShowTotals() {
@@ -113,46 +168,37 @@ void Form36::DisarmModes() {
   }
 }
 
-void Form36::Picture1_MouseDown(const MouseEvent& event) {
-  const bool draws = app_.form51.Option1.value() && app_.form51.Check8.value();
-  if (draws && app_.formulas.SubView() != Projection::Oblique) DrawPoint(event);
+bool Form36::IsArmed() const {
+  return Option1.value() || Option7.value() || Option8.value() || Option9.value() || Option10.value() ||
+         Option11.value();
 }
 
-void Form36::DrawPoint(const MouseEvent& event) {
-  ProfileClick click;
-  click.plane = app_.formulas.view.Plane();
-  click.across = std::floor(event.x) - HScroll1.value();
-  click.up = std::floor(event.y) - VScroll1.value();
-  click.third = app_.formulas.HScroll28.value();
-  click.advances = event.button == MouseButton::Left;
-  const int layer = DrawProfilePoint(app_.model, CurrentProfile(app_), click);
-  Label16.SetCaption(std::to_string(layer));
-  app_.form51.ShowProfileCount();
-  SyncFaceCorners(app_);
+void Form36::ShowGreyLevel(Colour colour) {
+  const int red = Red(colour), green = Green(colour), blue = Blue(colour);
+  Label53.SetCaption(std::to_string(red) + " " + std::to_string(green) + " " + std::to_string(blue) +
+                     "  grey " + std::to_string(GrayLevel(static_cast<int>(colour))));
+}
+
+void Form36::ShowBackground() {
+  const Picture& image = Picture2.picture;
+  Picture1.picture.SetBackdrop(std::make_shared<Backdrop>(
+      Backdrop{image.PixelWidth(), image.PixelHeight(), image.Pixels(), HScroll2.value(), VScroll2.value()}));
   RefreshViews(app_);
 }
 
-void Form36::Picture1_MouseMove(const MouseEvent& event) {
-  Label4.SetCaption(WholeText(double{event.x} - HScroll1.value()));
-  Label5.SetCaption(WholeText(double{event.y} - VScroll1.value()));
-  if (app_.form51.Option1.value() && app_.form51.Check15.value()) ShowNextLine(event);
+void Form36::ClearBackground() {
+  Picture1.picture.SetBackdrop(nullptr);
+  Label53.SetCaption({});
+  RefreshViews(app_);
 }
 
-// From the last point drawn to the mouse, over the picture and with its length.
-void Form36::ShowNextLine(const MouseEvent& event) {
-  const int profile = CurrentProfile(app_);
-  const int count = app_.model.Profile(profile).count;
-  const ProfilePointRec& last = app_.model.ProfilePts(std::max(count - 1, 0), profile);
-  const ScreenPoint at = Project(app_.formulas.SubView(), last.X, last.Y, last.Z);
-  const double x = at.x + HScroll1.value(), y = at.y + VScroll1.value();
-  const double dx = event.x - x, dy = event.y - y;
-  Label13.SetCaption(RoundedForm(std::sqrt(dx * dx + dy * dy), kLengthDecimals));
-  auto& overlay = Picture1.picture.overlay;
-  overlay.clear();
-  if (count > 0) {
-    overlay.push_back({static_cast<float>(x), static_cast<float>(y), event.x, event.y, kNextLineColour});
-  }
-  Picture1.NotifyChanged();
+void Form36::MoveBackground() {
+  if (!Picture1.picture.backdrop()) return;
+  auto moved = std::make_shared<Backdrop>(*Picture1.picture.backdrop());
+  moved->left = HScroll2.value();
+  moved->top = VScroll2.value();
+  Picture1.picture.SetBackdrop(std::move(moved));
+  RefreshViews(app_);
 }
 
 }  // namespace pelorium

@@ -7,9 +7,10 @@
 #include "controls/buttons.h"
 #include "controls/picture_box.h"
 #include "controls/scroll_bar.h"
+#include "controls/shape.h"
 #include "controls/text_box.h"
 #include "controls/window.h"
-#include "profiles/draw_point.h"
+#include "windows/view_mouse.h"
 
 namespace pelorium {
 
@@ -35,10 +36,21 @@ class Form36 : public Window {
 
   // No edit mode stays armed behind a new tool.
   void DisarmModes();
+  bool IsArmed() const;
+
+  // The colour under the mouse, while an image lies behind the model.
+  void ShowGreyLevel(Colour colour);
+
+  // Lays Picture2 behind the model, or takes it away.
+  void ShowBackground();
+  void ClearBackground();
+
+  ViewMouse mouse;  // on Picture1
 
   PictureBox Picture1{*this, "Picture1", kViewWidth, kViewHeight};
-  // Holds an image whose gray levels shape profiles and Parts. It has no place of its own in the window.
+  // Holds an image whose gray levels shape profiles and Parts; shown as the background of Picture1.
   PictureBox Picture2{*this, "Picture2", kImageWidth, kImageHeight};
+  Shape Shape5{*this, "Shape5"};  // the area of a pick
   ScrollBar HScroll1{*this, "HScroll1", {-4000, 4000, 0, 10, 100}, "pan X"};
   ScrollBar VScroll1{*this, "VScroll1", {-4000, 4000, 0, 10, 100}, "pan Y"};
   Label Label54{*this, "Label54", ""};
@@ -49,6 +61,15 @@ class Form36 : public Window {
   Label Label39{*this, "Label39", "0", "points of the current Part"};
   Label Label47{*this, "Label47", "0", "faces of Part 0"};
   Label Label49{*this, "Label49", "0", "faces of Part 1"};
+  Label Label53{*this, "Label53", "",
+                "red, green, blue and grey level of the background under the last click"};
+
+  // Where the background shows; what is read of it keeps its place.
+  ScrollBar HScroll2{
+      *this, "HScroll2", {-1000, 1000, 0, 1, 50}, "background X", "moves the background image across"};
+  TextBox Text1{*this, "Text1", "0"};
+  ScrollBar VScroll2{*this, "VScroll2", {-1000, 1000, 0, 1, 50}, "Y", "moves the background image down"};
+  TextBox Text2{*this, "Text2", "0"};
 
   OptionButton Option7{*this, "Option7", "&Move |", "mode", false, "moves the chosen points", kDisarms};
   OptionButton Option8{
@@ -63,19 +84,21 @@ class Form36 : public Window {
 
   PushButton Home{*this, "Home", "Home", "back to one unit a pixel, with the origin in sight"};
 
+  // Turns and moves of the shaded picture.
+  Label turnLabel{*this, "turnLabel", "turn"}, moveLabel{*this, "moveLabel", "move"};
+  std::vector<std::unique_ptr<PushButton>> poseButtons;
+
   // The row of commands, from the command table.
   std::vector<std::unique_ptr<PushButton>> commandRow;
 
  private:
   static constexpr auto kDisarms = OptionButton::WhenArmed::IsDisarmed;
 
-  void Picture1_MouseDown(const MouseEvent& event);
-  void Picture1_MouseMove(const MouseEvent& event);
   void Picture1_Resize(int pixelWidth, int pixelHeight);
   void Picture1_KeyPress(char character);
   void ResetView();
-  void DrawPoint(const MouseEvent& event);
-  void ShowNextLine(const MouseEvent& event);
+  void MakePoseButtons();
+  void MoveBackground();
   LayoutItem DeclareLayout();
 
   App& app_;

@@ -15,7 +15,9 @@
 #include "windows/formulas_edit_profile.h"
 #include "windows/refresh_views.h"
 #include "windows/revolveprof_revolve_profile.h"
+#include "windows/shaded_view.h"
 #include "windows/shared_parameters.h"
+#include "windows/specialeffects5_edit_geometry.h"
 
 namespace pelorium {
 
@@ -41,30 +43,39 @@ Form51::Form51(App& app) : Window(app.host, "Form51", "View Options"), app_(app)
   for (auto [bar, label] : {std::pair{&HScroll7, &Label12}, {&HScroll5, &Label10}}) {
     bar->onChange = [this, bar, label] {
       label->SetCaption(std::to_string(bar->value()));
+      app_.specialeffects5.FollowFaceRange();
       RefreshViews(app_);
     };
   }
   Command17.onClick = [this](const Click&) { HScroll6.SetValue(0); };
   Command26.onClick = [this](const Click& click) { app_.form36.ZoomByButton(click); };
   Command1.onClick = [this](const Click&) { RefreshViews(app_); };
+  Command2.onClick = [this](const Click&) { Command2_Click(); };
+  Option7.onClick = [this](const Click&) { Option7_Click(); };
   Command5.onClick = [this](const Click&) { Command5_Click(); };
   Command3.onClick = [this](const Click&) { Command3_Click(); };
   BindViews();
-  // The shaded picture is still to come.
-  Option11.SetEnabled(false);
-  Command2.SetEnabled(false);
+  BindPreview();
   SetLayout(DeclareLayout());
 }
 
 // Everything that only changes what the picture shows.
 void Form51::BindViews() {
   for (ScrollBar* bar : {&HScroll8, &HScroll9}) bar->onChange = [this] { RefreshViews(app_); };
-  for (Control* control :
-       std::initializer_list<Control*>{&Option1, &Option2, &Option3, &Option4, &Option5, &Option6, &Option16,
-                                       &Check1,  &Check3,  &Check7,  &Check9,  &Check10, &Check12, &Check13,
-                                       &Check14, &Check15, &Check16, &Check17, &Check21, &Check30}) {
+  for (Control* control : std::initializer_list<Control*>{
+           &Option1,  &Option2, &Option3, &Option4, &Option5, &Option6, &Option16,
+           &Option11, &Check1,  &Check3,  &Check7,  &Check9,  &Check10, &Check12,
+           &Check13,  &Check14, &Check15, &Check16, &Check17, &Check21, &Check30}) {
     control->onClick = [this](const Click&) { RefreshViews(app_); };
   }
+}
+
+// The preview shows Y upward, as the view does.
+void Form51::BindPreview() {
+  Picture3.picture.SetScale(kPreviewSide, -kPreviewSide);
+  Picture3.onMouseDown = [this](const MouseEvent& event) { Picture3_MouseDown(event); };
+  Picture3.onMouseMove = [this](const MouseEvent& event) { Picture3_MouseMove(event); };
+  Picture3.onMouseUp = [this](const MouseEvent&) { isPreviewDragged_ = false; };
 }
 
 LayoutItem Form51::DeclareLayout() {
@@ -74,6 +85,8 @@ LayoutItem Form51::DeclareLayout() {
              BarRow(HScroll2, {&Text1}), Flow({&Command17})}),
       Frame("View", {Flow({&Option1, &Option4, &Option2, &Option5, &Option6, &Option16, &Option3, &Option11,
                            &Command2})}),
+      Frame("Shaded", {Row({Single(Picture3),
+                            Column({Single(LeftDragHint), Single(RightDragHint), Single(ShiftDragHint)})})}),
       Frame("Show", {Flow({&Check1, &Check30, &Check7, &Check10, &Check9, &Check3, &Check14, &Check16,
                            &Check12, &Check15, &Check17, &Check13, &Check21})}),
       Frame("Faces",
@@ -141,6 +154,33 @@ void Form51::Zoom_Change() {
   constexpr double kZoomUnits = 10000;
   Label33.SetCaption(GeneralForm(HScroll13.value() / kZoomUnits));
   RefreshViews(app_);
+}
+
+void Form51::Command2_Click() {
+  Option11.SetValue(true);
+  app_.shadedView->InitShadedContext();
+  RefreshViews(app_);
+}
+
+void Form51::Option7_Click() {
+  app_.shadedView->InitShadedContext();
+  Option11.SetValue(true);
+}
+
+void Form51::Picture3_MouseDown(const MouseEvent& event) {
+  app_.shadedView->InitShadedContext();
+  lastPreviewEvent_ = event;
+  isPreviewDragged_ = true;
+  app_.shadedView->DrawPreview(Picture3);
+}
+
+void Form51::Picture3_MouseMove(const MouseEvent& event) {
+  if (!isPreviewDragged_) return;
+  ShadedView& shaded = *app_.shadedView;
+  shaded.DragPose(event, double{event.x} - lastPreviewEvent_.x, double{event.y} - lastPreviewEvent_.y);
+  lastPreviewEvent_ = event;
+  if (Option11.value()) RefreshViews(app_);
+  shaded.DrawPreview(Picture3);
 }
 
 void Form51::Command5_Click() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/buttons.h"
+#include "controls/picture_box.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "controls/window.h"
@@ -10,6 +11,8 @@
 namespace pelorium {
 
 class App;
+
+inline constexpr int kPreviewSide = 120;  // pixels of the shaded preview
 
 class Form51 : public Window {
  public:
@@ -43,7 +46,13 @@ class Form51 : public Window {
   OptionButton Option4{*this, "Option4", "View 3D", "view"};
   OptionButton Option16{*this, "Option16", "Tri View", "view"};
   OptionButton Option11{*this, "Option11", "Shaded view", "view"};
-  PushButton Command2{*this, "Command2", "Shaded View"};
+  OptionButton Option7{*this, "Option7", "Shaded", "view"};  // does what Command2 does
+  PushButton Command2{*this, "Command2", "Shaded View", "shows the Parts shaded"};
+  PictureBox Picture3{*this, "Picture3", kPreviewSide, kPreviewSide,
+                      "shaded view use mouse button/drage to view objs as shaded"};
+  Label LeftDragHint{*this, "LeftDragHint", "left drag = rotate"};
+  Label RightDragHint{*this, "RightDragHint", "right drag = spin"};
+  Label ShiftDragHint{*this, "ShiftDragHint", "Shift+left drag= move right button z move"};
 
   CheckBox Check1{*this, "Check1", "Show grid", true};
   CheckBox Check7{*this, "Check7", "Show unselected", true, "wire of both Parts"};
@@ -99,12 +108,19 @@ class Form51 : public Window {
   void HScroll6_Change();
   void HScroll2_Change();
   void Zoom_Change();
+  void Command2_Click();
+  void Option7_Click();
+  void BindPreview();
+  void Picture3_MouseDown(const MouseEvent& event);
+  void Picture3_MouseMove(const MouseEvent& event);
   void Command5_Click();
   void Command3_Click();
   void BindViews();
   LayoutItem DeclareLayout();
 
   App& app_;
+  MouseEvent lastPreviewEvent_;
+  bool isPreviewDragged_ = false;
 };
 
 }  // namespace pelorium

@@ -15,6 +15,7 @@
 #include "windows/form5_precise_edit.h"
 #include "windows/help_me.h"
 #include "windows/refresh_views.h"
+#include "windows/shaded_view.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {
@@ -52,6 +53,7 @@ void MDIForm1::Load() {
   app_.form51.Label3.SetCaption(CountCaption(app_.model, CurrentPart(app_)));
   app_.shadedPose = {245, 0, 45, 0, 0, 0};
   BindCommands();
+  app_.shadedView->InitShadedContext();
   PlaceWindows();
   Show();
   RefreshViews(app_);

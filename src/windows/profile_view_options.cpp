@@ -23,7 +23,6 @@ ProfileViewOptions::ProfileViewOptions(Window& owner, App& app)
     option->onClick = [this, &app](const Click&) { app.formulas.ChooseSubView(Chosen()); };
   }
   Option8.onClick = [&app](const Click&) { app.form51.Command2.Press(); };
-  Option8.SetEnabled(app.form51.Command2.enabled());
 }
 
 Projection ProfileViewOptions::Chosen() const {

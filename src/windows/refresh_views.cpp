@@ -12,6 +12,7 @@
 #include "windows/form36_view.h"
 #include "windows/form51_view_options.h"
 #include "windows/formulas_edit_profile.h"
+#include "windows/shaded_view.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {
@@ -68,11 +69,10 @@ void RefreshViews(App& app) {
   Trapped(app.faults, "RefreshViews", [&app] {
     Form36& view = app.form36;
     view.ShowTotals();
-    if (app.form51.Option11.value()) return;  // the shaded picture is not drawn in lines
+    if (app.form51.Option11.value()) return app.shadedView->DrawShaded();
     const ViewSettings settings = Gather(app);
     if (settings.mode != ViewMode::None) view.Label54.SetCaption(std::string(ViewCaption(settings)));
-    view.Picture1.picture.overlay.clear();
-    view.Picture1.NotifyChanged();
+    view.mouse.Refreshed();
     DrawViews(app.model, settings, view.Picture1.picture);
   });
 }

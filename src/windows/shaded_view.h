@@ -1,28 +1,48 @@
 // The shaded picture of the model, in the view window and in the small preview of the View Options.
 #pragma once
 
+#include <memory>
+
 #include "controls/picture_box.h"
+#include "graphics/gl_surface.h"
 
 namespace pelorium {
 
 class App;
+class ShadedFrame;
 
 class ShadedView {
  public:
-  explicit ShadedView(App& app) : app_(app) {}
+  explicit ShadedView(App& app);
+  ~ShadedView();
 
   // Makes a new context; the last one made is the one drawn with.
-  void InitShadedContext();
+  void InitShadedContext() { ++renderContext_; }
 
-  // Draws the model into the view window's picture.
+  // The handle of the last context: they are numbered from 1.
+  int renderContext() const { return renderContext_; }
+
+  // Draws the model into the view window's picture, as it is now: later changes show with the next drawing. A
+  // machine that has no OpenGL is told of once, and its picture stays blank.
   void DrawShaded();
+
+  // The same at the width of a small picture.
+  void DrawPreview(PictureBox& box);
 
   // What a drag by dx, dy (units of the picture, y upward) does to the pose: left turns about X and Z, right
   // about Y; with Shift left moves in X and Y, right in Z.
   void DragPose(const MouseEvent& event, double dx, double dy);
 
  private:
+  GlSurface* Surface();
+  void Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide);
+
   App& app_;
+  int renderContext_ = 0;
+  bool isOpened_ = false;  // or tried to
+  // All pictures are drawn on one surface, one after the other.
+  std::unique_ptr<GlSurface> surface_;
+  std::shared_ptr<ShadedFrame> viewFrame_, previewFrame_;
 };
 
 }  // namespace pelorium

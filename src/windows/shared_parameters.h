@@ -2,6 +2,7 @@
 // Precise Edit. No other place spells those controls to mean them.
 #pragma once
 
+#include "core/chosen_points.h"
 #include "core/model_store.h"
 
 namespace pelorium {
@@ -16,5 +17,8 @@ int FaceRangeStart(const App& app);
 int FaceRangeEnd(const App& app);
 // The pivot of all turns and scales. A text that is no number counts as 0.
 Vec3 Origin(const App& app);
+void SetOrigin(App& app, const Vec3& origin);
+// The marked points of the point range of the current Part.
+ChosenPoints Chosen(const App& app);
 
 }  // namespace pelorium

@@ -48,10 +48,10 @@ TEST_F(Start, EachRunBeginsWithTheSameColours) {
 }
 
 TEST_F(Start, ItemsWithoutTheirWindowAreDisabled) {
-  for (const char* name : {"triangleobj", "mterials", "rev1", "opentex", "copypart", "erase"}) {
+  for (const char* name : {"triangleobj", "mterials", "opentex", "copypart", "erase"}) {
     EXPECT_FALSE(app.mdiForm1.Find(name)->enabled()) << name;
   }
-  for (const char* name : {"rev", "extrudeme", "importprofiles", "formulait", "openproj", "memsave", "joinit",
+  for (const char* name : {"rev", "rev1", "extrudeme", "importprofiles", "formulait", "openproj", "memsave", "joinit",
                            "exiter", "aboutit", "estarea"}) {
     EXPECT_TRUE(app.mdiForm1.Find(name)->enabled()) << name;
   }

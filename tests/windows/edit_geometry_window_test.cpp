@@ -1,0 +1,273 @@
+// Edit Geometry: choices of points and faces, and drags on its small pictures.
+#include <gtest/gtest.h>
+
+#include "app_fixture.h"
+#include "windows/editbyface_face_info.h"
+#include "windows/follow_counts.h"
+#include "windows/form36_view.h"
+#include "windows/form51_view_options.h"
+#include "windows/form5_precise_edit.h"
+#include "windows/refresh_views.h"
+#include "windows/revolveprof_revolve_profile.h"
+#include "windows/shared_parameters.h"
+#include "windows/specialeffects5_edit_geometry.h"
+
+namespace pelorium {
+namespace {
+
+// Four points, three of them on the axes, and two faces of the groups 1 and 5; nothing is chosen.
+class EditGeometryWindow : public AppTest {
+ protected:
+  EditGeometryWindow() {
+    app.model.Part(0).maxpoints = 4;
+    app.model.Part(0).maxfaces = 2;
+    const Vec3 places[] = {{0, 0, 0}, {10, 0, 0}, {0, 20, 0}, {0, 0, 30}};
+    for (int i = 1; i <= 4; ++i) CopyPosition(Point(i), places[i - 1]);
+    SetFace(1, 1, 2, 3, 1);
+    SetFace(2, 2, 3, 4, 5);
+    FollowCounts(app);
+    window.Command4.Press(MouseButton::Right);
+    window.Command8.Press();
+  }
+  ~EditGeometryWindow() override { EXPECT_TRUE(app.faults.TakeAll().empty()); }
+
+  PointRec& Point(int number) { return app.model.Points(0, number); }
+  FaceRec& Face(int number) { return app.model.Faces(0, number); }
+  Vec3 Place(int number) { return {Point(number).X, Point(number).Y, Point(number).Z}; }
+  void SetFace(int number, int a, int b, int c, std::int16_t group) {
+    Face(number).corner1pt = a;
+    Face(number).corner2pt = b;
+    Face(number).corner3pt = c;
+    Face(number).group = group;
+  }
+
+  std::string Marks() {
+    std::string marks;
+    for (int i = 1; i <= 4; ++i) {
+      EXPECT_EQ(Point(i).onoff, app.model.PointMark(0, i)) << i;
+      marks += static_cast<char>('0' + Point(i).onoff);
+    }
+    return marks;
+  }
+  std::string FacesOn() { return std::to_string(Face(1).onoff) + std::to_string(Face(2).onoff); }
+
+  void On(const char* picture, UserAction action, float x, float y, MouseButton button = MouseButton::Left) {
+    app.Deliver({"specialeffects5", picture, action, 0, "", {button, {}}, x, y});
+  }
+  // One step of a drag, from (100, 50).
+  void Drag(const char* picture, float dx, float dy, MouseButton button = MouseButton::Left) {
+    On(picture, UserAction::MouseDown, 100, 50, button);
+    On(picture, UserAction::MouseMove, 100 + dx, 50 + dy, button);
+    On(picture, UserAction::MouseUp, 100 + dx, 50 + dy, button);
+    On(picture, UserAction::MouseMove, 0, 0, button);  // nothing is held any more
+  }
+
+  SpecialEffects5& window = app.specialeffects5;
+};
+
+constexpr MouseButton kRight = MouseButton::Right;
+
+TEST_F(EditGeometryWindow, PointsOfFaces) {
+  EXPECT_EQ(Marks(), "0000");
+  app.form51.HScroll7.SetValue(2);
+  window.Command5.Press();
+  EXPECT_EQ(Marks(), "0111");
+  window.Command7.Press(kRight);
+  EXPECT_EQ(Marks(), "0000");
+  window.Command9.Press();
+  window.Command7.Press(kRight);
+  EXPECT_EQ(Marks(), "1000");
+  window.Command7.Press();
+  EXPECT_EQ(Marks(), "1111");
+  app.form51.HScroll5.SetValue(1);  // from the second face to the first
+  window.Command5.Press();
+  EXPECT_EQ(Marks(), "0000");
+}
+
+TEST_F(EditGeometryWindow, PointsOfAGroup) {
+  window.Command4.Press();
+  window.HScroll7.Drag(5);
+  EXPECT_EQ(Marks(), "1111");
+  window.Command6.Press(kRight);
+  EXPECT_EQ(Marks(), "1000");
+  window.Check5.SetValue(true);
+  window.HScroll7.Drag(1);
+  EXPECT_EQ(Marks(), "1110");
+  app.editbyface.VScroll1.SetValue(4);
+  window.Command11.Press();
+  EXPECT_EQ(window.HScroll7.value(), 5);
+  EXPECT_EQ(Marks(), "0111");
+  app.editbyface.VScroll1.SetValue(2);  // the lowest face that has it
+  window.Command11.Press();
+  EXPECT_EQ(window.Text7.text(), "1");
+}
+
+TEST_F(EditGeometryWindow, PointsByDistanceAxisAndLayer) {
+  app.form5.Text5.SetText("10");
+  window.HScroll9.Drag(0);
+  EXPECT_EQ(Marks(), "0100");
+  window.HScroll9.Drag(10);
+  EXPECT_EQ(Marks(), "1100");
+  window.Option12.SetValue(true);
+  window.HScroll9.Drag(9);
+  EXPECT_EQ(Marks(), "1000");
+  window.Option6.SetValue(true);
+  window.VScroll1.Drag(30);
+  EXPECT_EQ(Marks(), "0001");
+  app.form5.HScroll5.SetValue(2);
+  window.HScroll8.Drag(0);
+  window.Command3.Press();
+  EXPECT_EQ(Marks(), "1101");
+}
+
+TEST_F(EditGeometryWindow, FacesFollowTheChoices) {
+  app.form51.HScroll7.SetValue(2);
+  window.Command4.Press(kRight);
+  EXPECT_EQ(FacesOn(), "10");
+  window.Command5.Press();
+  window.Command1.Press();
+  EXPECT_EQ(FacesOn(), "11");
+  app.form5.HScroll20.SetValue(3);  // a point outside the range is not chosen
+  window.Command1.Press(kRight);
+  EXPECT_EQ(FacesOn(), "11");
+  app.form5.HScroll20.SetValue(1);
+  window.HScroll7.Drag(9);
+  window.Command10.Press();
+  EXPECT_EQ(Face(1).group, 1);
+  EXPECT_EQ(Face(2).group, 9);
+  window.HScroll4.Drag(1);
+  window.HScroll5.Drag(1);
+  window.Command2.Press();
+  window.Command8.Press(kRight);
+  EXPECT_EQ(Face(1).group, 9);
+  EXPECT_EQ(FacesOn(), "01");
+}
+
+TEST_F(EditGeometryWindow, TheFaceRangeIsOneForAllWindows) {
+  window.Check2.SetValue(true);
+  window.HScroll4.Drag(2);
+  EXPECT_EQ(FaceRangeStart(app), 2);
+  EXPECT_EQ(Marks(), "0111");
+  window.HScroll5.Drag(0);
+  EXPECT_EQ(FaceRangeEnd(app), 0);
+  EXPECT_EQ(Marks(), "0000");
+  app.form51.HScroll5.Drag(2);
+  EXPECT_EQ(window.Text5.text(), "2");
+  EXPECT_EQ(Marks(), "0111");
+  app.model.Part(0).maxfaces = 1;
+  FollowCounts(app);  // the choice of points stays
+  EXPECT_EQ(Marks(), "0111");
+  EXPECT_EQ(window.HScroll4.value(), 1);
+  EXPECT_EQ(window.HScroll5.value(), 1);
+  EXPECT_EQ(window.HScroll5.max(), 1);
+}
+
+TEST_F(EditGeometryWindow, MovesKeepStepWithTheView) {
+  window.Command4.Press();
+  window.Command18.Press();  // 0.75 units a pixel
+  window.Text3.SetText("4");
+  Drag("Picture1", 10, 20);
+  EXPECT_EQ(Place(4), (Vec3{15, -30, 30}));
+  Drag("Picture1", 10, 20, kRight);
+  EXPECT_EQ(Place(4), (Vec3{15, -30, 0}));
+  window.Check3.SetValue(false);
+  for (const char* picture : {"Picture1", "Picture2", "Picture3"}) Drag(picture, 10, 20);
+  EXPECT_EQ(Place(4), (Vec3{15, -30, 0}));
+  EXPECT_EQ(Face(2).c3Y, -30);
+}
+
+TEST_F(EditGeometryWindow, TurnsAreHalfADegreeAUnit) {
+  window.Command4.Press();
+  Drag("Picture2", 10, 20);
+  EXPECT_EQ(Place(2), (Vec3{9.96194699189883, 0, -0.871557301958874}));
+  EXPECT_EQ(Place(3), (Vec3{0, 20, 0}));
+  window.Option8.SetValue(true);
+  Drag("Picture1", 10, 20, kRight);
+  EXPECT_EQ(Place(3), (Vec3{1.743114603917748, 19.920859479116615, -0.3477198454191483}));
+}
+
+TEST_F(EditGeometryWindow, ScalesByTheWayOfTheDrag) {
+  window.Command4.Press();
+  app.form5.Text5.SetText("0.1");
+  app.form5.Text9.SetText("0.1");
+  Point(1).X = Point(1).Y = 1e-20;  // would be lost beside 0.1
+  Drag("Picture3", 0, 0);
+  EXPECT_EQ(Place(1), (Vec3{1e-20, 1e-20, 0}));
+  Drag("Picture3", 5, 0);
+  EXPECT_EQ(Place(2), (Vec3{10.099, 0, 0}));
+  EXPECT_EQ(Point(1).Y, 1e-20);
+  window.Option9.SetValue(true);
+  Drag("Picture1", 0, -5);
+  EXPECT_EQ(Point(2).X, 10.099);
+  EXPECT_EQ(Point(3).Y, 0.1 + 19.9 * 0.99);
+  EXPECT_EQ(Point(4).Z, 29.7);
+}
+
+TEST_F(EditGeometryWindow, TheOriginIsDraggedInUnitsOfTheView) {
+  window.Check3.SetValue(false);
+  window.Command18.Press();
+  Drag("Picture4", 2.5F, 3);
+  EXPECT_EQ(window.Picture4.picture.ScaleWidth(), 90);  // 120 pixels of 0.75 units
+  EXPECT_LT(window.Picture4.picture.ScaleHeight(), 0);
+  Drag("Picture4", 50, -7, kRight);
+  EXPECT_EQ(Origin(app), (Vec3{2.5, 3, -7}));
+  app.Deliver({"specialeffects5", "Picture4", UserAction::DoubleClick});
+  EXPECT_EQ(app.form5.Text3.text(), "0");
+  EXPECT_EQ(Origin(app), (Vec3{0, 0, 0}));
+}
+
+TEST_F(EditGeometryWindow, JoinedEndsStayTogether) {
+  app.form5.HScroll5.SetValue(2);
+  app.form5.HScroll20.SetValue(2);
+  window.Command4.Press();
+  window.Check4.SetValue(true);
+  Drag("Picture1", 0, 0);
+  EXPECT_EQ(Place(2), Place(1));
+}
+
+TEST_F(EditGeometryWindow, AreasPickInTheProjectionOfTheView) {
+  app.form51.Option5.SetValue(true);  // the origin stands at (318, -318)
+  window.HScroll2.SetValue(12);
+  window.HScroll6.SetValue(5);
+  On("Picture5", UserAction::MouseDown, 328, -318);
+  EXPECT_EQ(Marks(), "0100");
+  On("Picture5", UserAction::MouseDown, 318, -318);
+  EXPECT_EQ(Marks(), "1101");
+  app.form51.Option2.SetValue(true);
+  window.Option3.SetValue(true);
+  window.Option10.SetValue(true);
+  EXPECT_EQ(window.Picture1.picture.ScaleHeight(), -637);
+  On("Picture1", UserAction::MouseDown, 318, -318);
+  EXPECT_EQ(Marks(), "1111");
+  On("Picture1", UserAction::MouseDown, 318, -318, kRight);
+  EXPECT_EQ(Marks(), "0001");
+  app.form51.Option4.SetValue(true);  // not here
+  On("Picture5", UserAction::MouseDown, 318, -318);
+  EXPECT_EQ(Marks(), "0001");
+  window.Option7.SetValue(true);
+  EXPECT_EQ(window.Picture1.picture.ScaleHeight(), window.Picture1.picture.PixelHeight());
+}
+
+TEST_F(EditGeometryWindow, MirrorsAndSteps) {
+  window.Command4.Press();
+  app.form5.Text9.SetText("5");
+  app.form5.HScroll10.SetValue(3);
+  window.Command12.Press();
+  EXPECT_EQ(Place(3), (Vec3{0, -10, 0}));
+  window.Command15.Press();
+  window.Command17.Press(kRight);
+  EXPECT_EQ(Place(3), (Vec3{3, -10, -3}));
+  EXPECT_EQ(Face(1).c3X, 3);
+}
+
+TEST_F(EditGeometryWindow, ThePartAndItsWireFollow) {
+  window.HScroll1.Drag(1);
+  EXPECT_EQ(CurrentPart(app), 1);
+  window.ShowPart(0);
+  EXPECT_EQ(window.Text1.text(), "0");
+  window.Check1.SetValue(false);
+  EXPECT_FALSE(app.form51.Check7.value());
+}
+
+}  // namespace
+}  // namespace pelorium
