@@ -61,7 +61,7 @@ void ShadedShare(benchmark::State& state) {
   FillModel(model);
   ShadedSettings settings;
   settings.pose = {245, 0, 45};
-  settings.showChosenPoints = false;
+  settings.shown.showChosenPoints = false;
   const auto surface = OpenEglSurface();
   if (!surface) return state.SkipWithError("this machine has no OpenGL");
   GlRecorder recorder;

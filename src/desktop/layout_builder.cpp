@@ -17,6 +17,7 @@ namespace {
 constexpr int kGap = 6;                // pixels between widgets
 constexpr int kComfortableFlow = 360;  // pixels: a few buttons a row
 constexpr int kWidestLabel = 190;      // pixels: longer texts before a bar wrap
+constexpr int kWidestTitle = 340;      // pixels: longer titles of frames wrap
 constexpr int kRowHeight = 22;         // pixels: rows with a box and rows without look alike
 constexpr int kLabelColumn = 0, kBarColumn = 1, kFirstBoxColumn = 2;
 
@@ -182,15 +183,30 @@ QWidget* LayoutBuilder::MakeRow(const LayoutItem& item, QWidget* parent) {
   return row;
 }
 
+// A title that is wider than a tool window becomes text that wraps, above an untitled box.
 QWidget* LayoutBuilder::MakeFrame(const LayoutItem& item, QWidget* parent) {
   if (item.controls.empty()) {
-    auto* box = new QGroupBox(CaptionToShow(item.title), parent);
+    const QString title = CaptionToShow(item.title);
+    if (parent->fontMetrics().horizontalAdvance(title) > kWidestTitle) return MakeWrappedFrame(item, parent);
+    auto* box = new QGroupBox(title, parent);
     box->setToolTip(QString::fromStdString(item.toolTip));
     return MakeColumn(item.items, box);
   }
   auto* group = new GroupWidget(*item.controls[0], dispatcher_, parent);
   views_[item.controls[0]] = group;
   return MakeColumn(item.items, group);
+}
+
+QWidget* LayoutBuilder::MakeWrappedFrame(const LayoutItem& item, QWidget* parent) {
+  auto* holder = new QWidget(parent);
+  auto* layout = WithoutMargins(new QVBoxLayout(holder));
+  auto* title = new QLabel(CaptionToShow(item.title), holder);
+  title->setWordWrap(true);
+  layout->addWidget(title);
+  LayoutItem untitled = item;
+  untitled.title.clear();
+  layout->addWidget(MakeFrame(untitled, holder));
+  return holder;
 }
 
 QWidget* LayoutBuilder::MakeFlow(const std::vector<Control*>& controls, QWidget* parent) {

@@ -25,6 +25,7 @@ class LayoutBuilder {
   QWidget* MakeColumn(const std::vector<LayoutItem>& items, QWidget* column);
   QWidget* MakeRow(const LayoutItem& item, QWidget* parent);
   QWidget* MakeFrame(const LayoutItem& item, QWidget* parent);
+  QWidget* MakeWrappedFrame(const LayoutItem& item, QWidget* parent);
   QWidget* MakeFlow(const std::vector<Control*>& controls, QWidget* parent);
   QWidget* MakeStandAlone(const LayoutItem& item, QWidget* parent);
   void AddLabelled(const LayoutItem& item, QGridLayout& grid, int row, QWidget* column);

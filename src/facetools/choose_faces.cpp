@@ -26,10 +26,6 @@ void ForEachChosenFace(ModelStore& model, const ChosenPoints& chosen, Act act) {
 
 }  // namespace
 
-void SwitchFaceRange(ModelStore& model, int part, int first, int last, bool on) {
-  for (FaceRec& face : FaceRange(model, part, first, last)) face.onoff = on ? 1 : 0;
-}
-
 void GroupFaceRange(ModelStore& model, int part, int first, int last, int group) {
   for (FaceRec& face : FaceRange(model, part, first, last)) face.group = Narrow<std::int16_t>(group);
 }

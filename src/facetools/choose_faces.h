@@ -8,8 +8,7 @@
 
 namespace pelorium {
 
-// The faces first..last, none when last < first. A range outside the table raises a Subscript fault.
-void SwitchFaceRange(ModelStore& model, int part, int first, int last, bool on);
+// Those of the faces first..last; none when last < first. A range outside the table raises a Subscript fault.
 void GroupFaceRange(ModelStore& model, int part, int first, int last, int group);
 
 // Of all faces in use.

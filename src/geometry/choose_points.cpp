@@ -37,7 +37,7 @@ void MarkCorners(ModelStore& model, int part, int firstFace, int lastFace, bool 
   }
 }
 
-void MarkLayers(ModelStore& model, int part, const LayerSpan& layers, bool on) {
+void MarkLayers(ModelStore& model, int part, const RingLayers& layers, bool on) {
   const int last = std::min<int>((layers.last + 1) * layers.ringWidth, model.Part(part).maxpoints);
   MarkPoints(model, part, layers.first * layers.ringWidth + 1, last, on);
 }

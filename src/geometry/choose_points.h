@@ -23,12 +23,12 @@ void MarkCorners(ModelStore& model, int part, int firstFace, int lastFace, bool 
                  std::optional<int> group = std::nullopt);
 
 // Whole layers, counted from 0, of rings of `ringWidth` points; they end at the Part's last point.
-struct LayerSpan {
+struct RingLayers {
   int first = 0, last = 0;
   int ringWidth = 0;
 };
 
-void MarkLayers(ModelStore& model, int part, const LayerSpan& layers, bool on);
+void MarkLayers(ModelStore& model, int part, const RingLayers& layers, bool on);
 
 // The points 0..maxpoints no further off than `distance` units; the others keep their marks.
 void MarkWithin(ModelStore& model, int part, const Vec3& centre, double distance, bool on);

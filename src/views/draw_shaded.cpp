@@ -115,7 +115,7 @@ void Scene::SetUp() {
 void Scene::DrawGrid() {
   Drawing lines(gl_, GlShape::Lines);
   lines.Colour(kGridShade);
-  const int spacing = std::max(1, settings_.gridSpacing);
+  const int spacing = std::max(1, settings_.shown.gridSpacing);
   constexpr double kReach = kGridReach;
   for (int at = -kGridReach; at <= kGridReach; at += spacing) {
     const double t = at;
@@ -131,7 +131,7 @@ void Scene::DrawGrid() {
 }
 
 void Scene::DrawOrigin() {
-  const Vec3& o = settings_.origin;
+  const Vec3& o = settings_.shown.origin;
   Drawing lines(gl_, GlShape::Lines);
   lines.Colour(kAxisShades[0]);
   lines.Line(Vec3{o.X - kOriginReach, o.Y, o.Z}, Vec3{o.X + kOriginReach, o.Y, o.Z});
@@ -142,8 +142,8 @@ void Scene::DrawOrigin() {
 }
 
 const FaceRec* Scene::ChosenFace() const {
-  if (!settings_.showChosenFace) return nullptr;
-  return &model_.Faces(settings_.currentPart, settings_.chosenFace);
+  if (!settings_.shown.showChosenFace) return nullptr;
+  return &model_.Faces(settings_.shown.currentPart, settings_.shown.chosenFace);
 }
 
 // The tint runs on from one Part to the next, and over faces that are off.
@@ -180,7 +180,7 @@ void Scene::DrawEdges(int part, const Shade& shade) {
 
 void Scene::DrawOtherEdges() {
   for (int part = 0; part < kUserParts; ++part) {
-    if (part != settings_.currentPart) DrawEdges(part, kOtherEdgeShade);
+    if (part != settings_.shown.currentPart) DrawEdges(part, kOtherEdgeShade);
   }
 }
 
@@ -202,7 +202,7 @@ void Scene::DrawOtherProfiles() {
     Drawing drawing(gl_, shape);
     drawing.Colour(kOtherProfilesShade);
     for (int profile = 0; profile <= kMaxProfile; ++profile) {
-      if (profile != settings_.currentProfile) (this->*add)(drawing, profile);
+      if (profile != settings_.shown.currentProfile) (this->*add)(drawing, profile);
     }
   };
   each(GlShape::Lines, &Scene::AddProfileLines);
@@ -214,21 +214,21 @@ void Scene::DrawProfile() {
   {
     Drawing lines(gl_, GlShape::Lines);
     lines.Colour(kProfileShade);
-    AddProfileLines(lines, settings_.currentProfile);
+    AddProfileLines(lines, settings_.shown.currentProfile);
   }
   gl_.PointSize(kProfilePoint);
   Drawing points(gl_, GlShape::Points);
   points.Colour(kProfilePointShade);
-  AddProfilePoints(points, settings_.currentProfile);
+  AddProfilePoints(points, settings_.shown.currentProfile);
 }
 
 void Scene::DrawChosenPoints() {
-  const int part = settings_.currentPart;
+  const int part = settings_.shown.currentPart;
   gl_.PointSize(kChosenPointSize);
   Drawing points(gl_, GlShape::Points);
-  int number = settings_.firstChosenPoint;
-  for (const PointRec& point : PointRange(model_, part, number, settings_.lastChosenPoint)) {
-    const bool isChosen = number == settings_.chosenPoint;
+  int number = settings_.shown.firstChosenPoint;
+  for (const PointRec& point : PointRange(model_, part, number, settings_.shown.lastChosenPoint)) {
+    const bool isChosen = number == settings_.shown.chosenPoint;
     if (model_.PointMark(part, number++) != 1) continue;
     points.Colour(isChosen ? kChosenPointShade : kChosenPointsShade);
     points.Vertex(point);
@@ -253,17 +253,17 @@ void DrawShaded(const ModelStore& model, const ShadedSettings& settings, Gl& gl)
   Scene scene(model, settings, gl);
   scene.SetUp();
   gl.DepthRange(kNearer, 1);
-  if (settings.showGrid) scene.DrawGrid();
-  if (settings.showOrigin) scene.DrawOrigin();
-  if (settings.showFaces) scene.DrawFaces();
+  if (settings.shown.showGrid) scene.DrawGrid();
+  if (settings.shown.showOrigin) scene.DrawOrigin();
+  if (settings.shown.showWire) scene.DrawFaces();
   gl.DepthRange(0, 1 - kNearer);
-  if (settings.showEdges) scene.DrawEdges(settings.currentPart, kEdgeShade);
+  if (settings.showEdges) scene.DrawEdges(settings.shown.currentPart, kEdgeShade);
   if (settings.showOtherEdges) scene.DrawOtherEdges();
-  if (settings.showOtherProfiles) scene.DrawOtherProfiles();
-  if (settings.showProfile) scene.DrawProfile();
+  if (settings.shown.showOtherProfiles) scene.DrawOtherProfiles();
+  if (settings.shown.showProfile) scene.DrawProfile();
   gl.DepthRange(kNearer, 1);
-  if (settings.showChosenPoints) scene.DrawChosenPoints();
-  if (settings.showAllPoints) scene.DrawAllPoints();
+  if (settings.shown.showChosenPoints) scene.DrawChosenPoints();
+  if (settings.shown.showAllPoints) scene.DrawAllPoints();
 }
 
 }  // namespace pelorium

@@ -1,7 +1,7 @@
 // What the shaded view draws, and how it stands.
 #pragma once
 
-#include "core/model_store.h"
+#include "views/view_settings.h"
 
 namespace pelorium {
 
@@ -13,25 +13,12 @@ struct ShadedPose {
 
 // Everything that the View Options and their companions say about the shaded picture.
 struct ShadedSettings {
+  ViewSettings shown;  // what is drawn, as in the wire views: showWire stands for the faces
   ShadedPose pose;
-  double scale = 0.0007;   // of a model unit; the visible space reaches from -1 to 1 in each direction
-  int viewportSide = 637;  // pixels, from the lower left corner of the picture
-  int gridSpacing = 50;    // units, at least 1
-  int currentPart = 0, currentProfile = 0;
-  int firstChosenPoint = 1, lastChosenPoint = 0;
-  int chosenPoint = 0;  // drawn in a colour of its own
-  int chosenFace = 1;
-  Vec3 origin;
-  bool showGrid = true;
-  bool showOrigin = true;
-  bool showFaces = true;  // of both user Parts
-  bool showChosenFace = false;
-  bool showEdges = false;          // of the current Part
-  bool showOtherEdges = false;     // of the other user Part
-  bool showOtherProfiles = false;  // all but the current one
-  bool showProfile = false;
-  bool showChosenPoints = true;  // the chosen range of the current Part
-  bool showAllPoints = false;    // of both user Parts
+  double scale = 0.0007;        // of a model unit; the visible space reaches from -1 to 1 in each direction
+  int viewportSide = 637;       // pixels, from the lower left corner of the picture
+  bool showEdges = false;       // of the current Part
+  bool showOtherEdges = false;  // of the other user Part
 };
 
 }  // namespace pelorium

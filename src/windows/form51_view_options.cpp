@@ -130,6 +130,7 @@ void Form51::HScroll4_Change() {
     app_.form5.HScroll20.SetValue(1);
     FollowSections(app_);
     app_.form5.HScroll11.SetValue(HScroll4.value());
+    app_.specialeffects5.ShowPart(HScroll4.value());
     app_.form55.ShowPart();
     app_.formulas3frm.ShowPart();
   });
@@ -160,6 +161,7 @@ void Form51::Command2_Click() {
   Option11.SetValue(true);
   app_.shadedView->InitShadedContext();
   RefreshViews(app_);
+  app_.shadedView->DrawPreview(Picture3);
 }
 
 void Form51::Option7_Click() {

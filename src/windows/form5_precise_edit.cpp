@@ -268,34 +268,27 @@ LayoutItem Form5::ButtonRow(std::string_view frame, std::vector<Control*> before
   return Flow(std::move(before));
 }
 
-// What is worked on stands at the left, what is done to it at the right, each amount with its buttons.
+// One narrow column, so that the picture stays in sight; each amount stands with its buttons.
 LayoutItem Form5::DeclareLayout() {
   const auto frame = [this](std::string_view title, std::vector<LayoutItem> items,
                             std::vector<Control*> before = {}) {
     items.push_back(ButtonRow(title, std::move(before)));
     return Frame(std::string(title), std::move(items));
   };
-  return Row({
-      Column({
-          Frame("Origin", {Labelled("Origin Loc X", Text5), Labelled("Origin Loc Y", Text9),
-                           Labelled("Origin Loc Z", Text3)}),
-          Frame("Chosen points",
-                {BarRow(HScroll20, {&Text38, &Command7}), BarRow(HScroll25, {&Text39, &Command8}),
-                 BarRow(HScroll9, {&Text4}), BarRow(HScroll1, {&Text1, &Command11}),
-                 BarRow(HScroll2, {&Text2, &Command13}), BarRow(HScroll5, {&Text6, &Command19}),
-                 BarRow(HScroll11, {&Text8})}),
-          frame(kFaces, {}),
-          frame(kJoinEnds, {}),
-          Single(Label1),
-      }),
-      Column({
-          frame(kMove, {BarRow(HScroll10, {&Text41})}),
-          frame(kTurn, {Labelled("Rotate amt", Text19)}),
-          frame(kTurnInSteps, {}),
-          frame(kScale, {Labelled("Scale amnt -", Text10), Labelled("Scale amnt +", Text20)}),
-          frame(kFlip, {Single(Check2)}, {&Option3, &Option2, &Option1}),
-          frame(kSetEqual, {}, {&Option4, &Option5, &Option6}),
-      }),
+  return Column({
+      Frame("Origin", {Labelled("Origin Loc X", Text5), Labelled("Origin Loc Y", Text9),
+                       Labelled("Origin Loc Z", Text3)}),
+      Frame("Chosen points", {BarRow(HScroll20, {&Text38, &Command7}),
+                              BarRow(HScroll25, {&Text39, &Command8}), BarRow(HScroll9, {&Text4}),
+                              BarRow(HScroll1, {&Text1, &Command11}), BarRow(HScroll2, {&Text2, &Command13}),
+                              BarRow(HScroll5, {&Text6, &Command19}), BarRow(HScroll11, {&Text8})}),
+      frame(kMove, {BarRow(HScroll10, {&Text41})}),
+      Frame(std::string(kTurn), {Labelled("Rotate amt", Text19), ButtonRow(kTurn), ButtonRow(kTurnInSteps)}),
+      frame(kScale, {Row({Labelled("Scale amnt -", Text10), Labelled("+", Text20)})}),
+      frame(kFlip, {Single(Check2)}, {&Option3, &Option2, &Option1}),
+      frame(kSetEqual, {}, {&Option4, &Option5, &Option6}),
+      Row({frame(kFaces, {}), frame(kJoinEnds, {})}),
+      Single(Label1),
   });
 }
 

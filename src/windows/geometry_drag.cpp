@@ -7,6 +7,7 @@
 #include "geometry/edit_chosen_points.h"
 #include "views/pick_points.h"
 #include "windows/app.h"
+#include "windows/drag_factor.h"
 #include "windows/form36_view.h"
 #include "windows/refresh_views.h"
 #include "windows/revolveprof_revolve_profile.h"
@@ -20,13 +21,12 @@ namespace {
 
 constexpr double kSpeed = 0.5;      // units or degrees for each unit dragged, at a factor of 1
 constexpr double kSlowerTurn = 10;  // the second turn is slower by this
-constexpr double kShrink = 0.99, kGrow = 1.01;
 constexpr Colour kAreaColour = Rgb(250, 250, 250);
 
 // A factor of 1 would round the last digit.
 void ScaleBySign(ModelStore& model, const ChosenPoints& chosen, Axis axis, double dragged,
                  const Vec3& pivot) {
-  if (dragged != 0) ScaleChosen(model, chosen, axis, dragged < 0 ? kShrink : kGrow, pivot);
+  if (dragged != 0) ScaleChosen(model, chosen, axis, DragFactor(dragged), pivot);
 }
 
 OverlayShape ShapeOf(const PickArea& area) {

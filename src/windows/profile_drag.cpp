@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "windows/app.h"
+#include "windows/drag_factor.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {
@@ -11,7 +12,6 @@ namespace pelorium {
 namespace {
 
 constexpr double kDegreesPerEvent = 1;
-constexpr double kShrink = 0.99, kGrow = 1.01;
 
 }  // namespace
 
@@ -45,8 +45,7 @@ void ProfileDrag::Apply(const ProfileBlock& block, double dx, double dy) {
     if (turns_.value()) {
       TurnBlock(model, block, X, Z, dx < 0 ? -kDegreesPerEvent : kDegreesPerEvent, Origin(app_));
     } else {
-      ScaleBlock(model, block, isRight ? BlockAxes{Z} : BlockAxes{X, Z}, dx < 0 ? kShrink : kGrow,
-                 Origin(app_));
+      ScaleBlock(model, block, isRight ? BlockAxes{Z} : BlockAxes{X, Z}, DragFactor(dx), Origin(app_));
     }
     return;
   }

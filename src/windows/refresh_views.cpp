@@ -35,7 +35,9 @@ ViewMode ChosenMode(const Form51& options) {
   return ViewMode::None;
 }
 
-ViewSettings Gather(const App& app) {
+}  // namespace
+
+ViewSettings GatherViewSettings(const App& app) {
   const Form51& options = app.form51;
   ViewSettings s;
   s.mode = ChosenMode(options);
@@ -63,14 +65,12 @@ ViewSettings Gather(const App& app) {
   return s;
 }
 
-}  // namespace
-
 void RefreshViews(App& app) {
   Trapped(app.faults, "RefreshViews", [&app] {
     Form36& view = app.form36;
     view.ShowTotals();
     if (app.form51.Option11.value()) return app.shadedView->DrawShaded();
-    const ViewSettings settings = Gather(app);
+    const ViewSettings settings = GatherViewSettings(app);
     if (settings.mode != ViewMode::None) view.Label54.SetCaption(std::string(ViewCaption(settings)));
     view.mouse.Refreshed();
     DrawViews(app.model, settings, view.Picture1.picture);

@@ -1,9 +1,14 @@
 // The two calls that end every operation.
 #pragma once
 
+#include "views/view_settings.h"
+
 namespace pelorium {
 
 class App;
+
+// What the views show, from the controls that say so.
+ViewSettings GatherViewSettings(const App& app);
 
 // Redraws the picture of the model from the tables and the controls. May be called at any time.
 void RefreshViews(App& app);

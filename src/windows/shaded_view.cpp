@@ -8,10 +8,9 @@
 #include "graphics/gl_recorder.h"
 #include "views/draw_shaded.h"
 #include "windows/app.h"
-#include "windows/editbyface_face_info.h"
 #include "windows/form36_view.h"
 #include "windows/form51_view_options.h"
-#include "windows/shared_parameters.h"
+#include "windows/refresh_views.h"
 
 namespace pelorium {
 
@@ -43,27 +42,12 @@ namespace {
 ShadedSettings Gather(const App& app, int viewportSide) {
   const Form51& options = app.form51;
   ShadedSettings s;
+  s.shown = GatherViewSettings(app);
   s.pose = app.shadedPose;
   s.scale = Val(options.Label33.caption());
   s.viewportSide = viewportSide;
-  s.gridSpacing = options.HScroll8.value();
-  s.currentPart = CurrentPart(app);
-  s.currentProfile = CurrentProfile(app);
-  s.firstChosenPoint = PointRangeStart(app);
-  s.lastChosenPoint = PointRangeEnd(app);
-  s.chosenPoint = app.editbyface.VScroll1.value();
-  s.chosenFace = app.editbyface.VScroll2.value();
-  s.origin = Origin(app);
-  s.showGrid = options.Check1.value();
-  s.showOrigin = options.Check30.value();
-  s.showFaces = options.Check7.value();
-  s.showChosenFace = options.Check3.value();
   s.showEdges = options.Check21.value();
   s.showOtherEdges = options.Check13.value();
-  s.showOtherProfiles = options.Check16.value();
-  s.showProfile = options.Check14.value();
-  s.showChosenPoints = options.Check10.value();
-  s.showAllPoints = options.Check9.value();
   return s;
 }
 

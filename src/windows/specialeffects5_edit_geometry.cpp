@@ -2,6 +2,7 @@
 #include "windows/specialeffects5_edit_geometry.h"
 
 #include "facetools/choose_faces.h"
+#include "facetools/switch_faces.h"
 #include "geometry/choose_points.h"
 #include "geometry/edit_chosen_points.h"
 #include "windows/app.h"
@@ -92,7 +93,7 @@ void SpecialEffects5::BindPicks() {
   });
   Bind(Command4, [this, &model](bool on) {
     MarkPoints(model, CurrentPart(app_), PointRangeStart(app_), PointRangeEnd(app_), on);
-    SwitchFaceRange(model, CurrentPart(app_), FaceRangeStart(app_), FaceRangeEnd(app_), on);
+    SwitchFaces(model, CurrentPart(app_), FaceRangeStart(app_), FaceRangeEnd(app_), on);
   });
   Bind(Command9, [this, &model](bool) {
     InvertPoints(model, CurrentPart(app_), PointRangeStart(app_), PointRangeEnd(app_));
@@ -106,7 +107,7 @@ void SpecialEffects5::BindFaces() {
   HScroll7.onChange = [this] { HScroll7_Change(); };
   Bind(Command1, [this, &model](bool on) { SwitchChosenFaces(model, Chosen(app_), on); });
   Bind(Command8, [this, &model](bool on) {
-    SwitchFaceRange(model, CurrentPart(app_), HScroll4.value(), HScroll5.value(), on);
+    SwitchFaces(model, CurrentPart(app_), HScroll4.value(), HScroll5.value(), on);
   });
   Bind(Command2, [this, &model](bool) {
     GroupFaceRange(model, CurrentPart(app_), FaceRangeStart(app_), FaceRangeEnd(app_), HScroll7.value());
@@ -220,27 +221,31 @@ void SpecialEffects5::Command11_Click() {
   });
 }
 
-LayoutItem SpecialEffects5::DeclareLayout() { return Row({DragColumn(), ChoiceColumn()}); }
+// One narrow column, so that the view stays in sight: the pictures first, then the choices.
+LayoutItem SpecialEffects5::DeclareLayout() {
+  std::vector<LayoutItem> items = DragFrames();
+  for (LayoutItem& item : ChoiceFrames()) items.push_back(std::move(item));
+  return Column(std::move(items));
+}
 
-LayoutItem SpecialEffects5::DragColumn() {
-  return Column({
+std::vector<LayoutItem> SpecialEffects5::DragFrames() {
+  return {
       Frame("Part",
-            {BarRow(HScroll1, {&Text1}), Labelled("Sub G", Text3), Flow({&Check3, &Check1, &Check4})}),
+            {BarRow(HScroll1, {&Text1}), Row({Flow({&Check3, &Check1, &Check4}), Labelled("Sub G", Text3)})}),
       Frame("Move and Edit effect window",
-            {Flow({&Option7, &Option8, &Option9, &Option10, &Option11}), Single(Picture1)}),
+            {Flow({&Option7, &Option8, &Option9, &Option10, &Option11}),
+             Row({Single(Picture1), Column({Frame("Mirror", {Flow({&Command12, &Command13, &Command14})}),
+                                            Frame("Step", {Flow({&Command15, &Command16, &Command17})})})})}),
       Row({Frame("Rotate", {Single(Picture2)}), Frame("Scale", {Single(Picture3)}),
            Frame("Move Origin", {Single(Picture4)})}),
       Row({Frame("Pick pts", {Single(Picture5)}),
-           Column(
-               {Frame("Area Select Options", {Flow({&Option2, &Option3})}),
-                Frame("Pick Points Area Size", {BarRow(HScroll2, {&Text2}), BarRow(HScroll6, {&Text6})})})}),
-      Row({Frame("Mirror", {Flow({&Command12, &Command13, &Command14})}),
-           Frame("Step", {Flow({&Command15, &Command16, &Command17})}), Frame("View", {Flow({&Command18})})}),
-  });
+           Column({Frame("Area Select Options", {Flow({&Option2, &Option3})}), Flow({&Command18})})}),
+      Frame("Pick Points Area Size", {BarRow(HScroll2, {&Text2}), BarRow(HScroll6, {&Text6})}),
+  };
 }
 
-LayoutItem SpecialEffects5::ChoiceColumn() {
-  return Column({
+std::vector<LayoutItem> SpecialEffects5::ChoiceFrames() {
+  return {
       Frame("Points", {Flow({&Command4, &Command9, &Command1})}),
       Frame("Faces", {BarRow(HScroll4, {&Text4}), BarRow(HScroll5, {&Text5}),
                       Flow({&Check2, &Command5, &Command7, &Command8})}),
@@ -252,7 +257,7 @@ LayoutItem SpecialEffects5::ChoiceColumn() {
             {Flow({&Option1, &Option12}), BarRow(HScroll9, {&Text10})}),
       Frame("pick points to be on (selected based on x y or z aboslute location--low to high range",
             {Flow({&Option4, &Option5, &Option6}), BarRow(VScroll1, {}), BarRow(VScroll2, {})}),
-  });
+  };
 }
 
 }  // namespace pelorium

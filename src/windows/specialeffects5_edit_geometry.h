@@ -2,6 +2,8 @@
 // chosen points with the mouse on small pictures.
 #pragma once
 
+#include <vector>
+
 #include "controls/buttons.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
@@ -131,7 +133,7 @@ class SpecialEffects5 : public Window {
  private:
   // A quarter of the view's usual size: picks are not distorted.
   static constexpr int kAreaWidth = 241, kAreaHeight = 159;           // pixels
-  static constexpr int kSmallAreaWidth = 120, kSmallAreaHeight = 90;  // pixels
+  static constexpr int kSmallAreaWidth = 110, kSmallAreaHeight = 80;  // pixels
   static constexpr int kFarthest = 1500;  // models seldom reach further from 0, in units
   static constexpr const char* kMirrorTip = "mirrors the chosen points at the origin along this axis";
   static constexpr const char* kStepTip =
@@ -162,8 +164,8 @@ class SpecialEffects5 : public Window {
   void Bind(PushButton& button, Change change);
 
   LayoutItem DeclareLayout();
-  LayoutItem DragColumn();
-  LayoutItem ChoiceColumn();
+  std::vector<LayoutItem> DragFrames();
+  std::vector<LayoutItem> ChoiceFrames();
 
   App& app_;
   bool isFollowing_ = false;  // the two face bars are being set here or there

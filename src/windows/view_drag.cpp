@@ -7,6 +7,7 @@
 #include "core/chosen_points.h"
 #include "geometry/edit_chosen_points.h"
 #include "windows/app.h"
+#include "windows/drag_factor.h"
 #include "windows/form36_view.h"
 #include "windows/form51_view_options.h"
 #include "windows/form5_precise_edit.h"
@@ -19,9 +20,6 @@ namespace {
 
 constexpr double kUnitsPerUnit = 0.1;    // of a move, for each unit dragged
 constexpr double kDegreesPerUnit = 0.1;  // of a turn
-constexpr double kShrink = 0.99, kGrow = 1.01;
-
-double FactorOf(double dragged) { return dragged < 0 ? kShrink : dragged > 0 ? kGrow : 1; }
 
 // The directions that the View Options hold are taken out.
 DragStep Held(const App& app, DragStep step) {
@@ -67,9 +65,9 @@ void RotatePoints(App& app, const DragStep& step, const DragAxes& axes) {
 void ScalePoints(App& app, const DragStep& step, const DragAxes& axes) {
   const ChosenPoints chosen = Chosen(app);
   const Vec3 pivot = Origin(app);
-  ScaleChosen(app.model, chosen, axes.across, FactorOf(step.d1), pivot);
-  ScaleChosen(app.model, chosen, axes.up, FactorOf(step.d3), pivot);
-  ScaleChosen(app.model, chosen, axes.out, FactorOf(step.d2), pivot);
+  ScaleChosen(app.model, chosen, axes.across, DragFactor(step.d1), pivot);
+  ScaleChosen(app.model, chosen, axes.up, DragFactor(step.d3), pivot);
+  ScaleChosen(app.model, chosen, axes.out, DragFactor(step.d2), pivot);
 }
 
 void MoveOrigin(App& app, const DragStep& step, const DragAxes& axes) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/numbers.h"
+#include "geometry/choose_points.h"
 #include "profiles/draw_point.h"
 #include "windows/app.h"
 #include "windows/follow_counts.h"
@@ -60,13 +61,6 @@ ProfileClick ProfileClickAt(const App& app, const MouseEvent& event) {
 
 double CircleRadius(const App& app) { return app.specialeffects5.HScroll6.value(); }
 
-void MarkWholeRange(App& app, bool on) {
-  const int part = CurrentPart(app);
-  for (int i = PointRangeStart(app); i <= PointRangeEnd(app); ++i) {
-    app.model.Points(part, i).onoff = app.model.PointMark(part, i) = on ? 1 : 0;
-  }
-}
-
 }  // namespace
 
 std::optional<PickView> PickViewAt(const App& app, double x, double y) {
@@ -113,7 +107,7 @@ void ViewMouse::Down(const MouseEvent& event) {
 void ViewMouse::PressPick(const MouseEvent& event) {
   const bool on = event.button == MouseButton::Left;
   if (event.keys.shift) {
-    MarkWholeRange(app_, on);
+    MarkPoints(app_.model, CurrentPart(app_), PointRangeStart(app_), PointRangeEnd(app_), on);
   } else if (pickView_) {
     cornerX_ = event.x;
     cornerY_ = event.y;

@@ -17,7 +17,8 @@ class Shaded : public ::testing::Test {
  protected:
   // Part 0 with one face (1 2 3) at (1, 2, 3), (4, 5, 6), (7, 8, 9), in a group of colour 0.5, 0.25, 0.
   Shaded() {
-    settings.showGrid = settings.showOrigin = settings.showFaces = settings.showChosenPoints = false;
+    settings.shown.showGrid = settings.shown.showOrigin = settings.shown.showWire =
+        settings.shown.showChosenPoints = false;
     MaterialRec& material = model.MaterialGroups(7);
     material.KdR = 0.5, material.KdG = 0.25, material.KdB = 0;
     for (int i = 1; i <= 3; ++i) {
@@ -67,7 +68,7 @@ TEST_F(Shaded, OneFaceInAPose) {
   settings.pose = {245, 10, 45, 1, -2, 3.5};
   settings.scale = 0.5;
   settings.viewportSide = 300;
-  settings.showFaces = true;
+  settings.shown.showWire = true;
   settings.showEdges = true;
   model.Faces(0, 1).c1X = 99;  // the copies of the corners do not count
   model.Points(0, 2).onoff = 0;
@@ -86,10 +87,10 @@ TEST_F(Shaded, OneFaceInAPose) {
 }
 
 TEST_F(Shaded, TintRunsInBandsOverPartsAndFacesThatAreOff) {
-  settings.showFaces = true;
-  settings.showChosenFace = true;
-  settings.currentPart = 1;
-  settings.chosenFace = 3;
+  settings.shown.showWire = true;
+  settings.shown.showChosenFace = true;
+  settings.shown.currentPart = 1;
+  settings.shown.chosenFace = 3;
   SetFaces(0, 59);
   SetFaces(1, 4);
   model.Part(0).minfaces = 0;  // a file may say so; face 0 is none
@@ -100,8 +101,8 @@ TEST_F(Shaded, TintRunsInBandsOverPartsAndFacesThatAreOff) {
 }
 
 TEST_F(Shaded, GridAndAxes) {
-  settings.showGrid = true;
-  settings.gridSpacing = 300;  // from -1000 to 800: seven lines each way
+  settings.shown.showGrid = true;
+  settings.shown.gridSpacing = 300;  // from -1000 to 800: seven lines each way
   const Lines lines = Drawn();
   ASSERT_EQ(lines.size(), 1U + 1 + 7 * 4 + 9 + 1);
   EXPECT_EQ(Lines(lines.begin() + 1, lines.begin() + 6),
@@ -112,18 +113,18 @@ TEST_F(Shaded, GridAndAxes) {
             (Lines{"Color3f 0.7 0.2 0.2", "Vertex3f -40 0 1", "Vertex3f 40 0 1", "Color3f 0.2 0.7 0.2",
                    "Vertex3f 0 -40 1", "Vertex3f 0 40 1", "Color3f 0.2 0.2 0.7", "Vertex3f 0 0 -40",
                    "Vertex3f 0 0 40", "End"}));
-  settings.showGrid = false;
-  settings.showOrigin = true;
-  settings.origin = {10, 20, 30};
+  settings.shown.showGrid = false;
+  settings.shown.showOrigin = true;
+  settings.shown.origin = {10, 20, 30};
   EXPECT_EQ(Drawn(), (Lines{"Begin Lines", "Color3f 0.7 0.2 0.2", "Vertex3f -690 20 30", "Vertex3f 710 20 30",
                             "Color3f 0.2 0.7 0.2", "Vertex3f 10 -680 30", "Vertex3f 10 720 30",
                             "Color3f 0.2 0.2 0.7", "Vertex3f 10 20 -670", "Vertex3f 10 20 730", "End"}));
 }
 
 TEST_F(Shaded, ProfilesAndOtherEdges) {
-  settings.currentPart = 1;
-  settings.currentProfile = 2;
-  settings.showOtherEdges = settings.showProfile = settings.showOtherProfiles = true;
+  settings.shown.currentPart = 1;
+  settings.shown.currentProfile = 2;
+  settings.showOtherEdges = settings.shown.showProfile = settings.shown.showOtherProfiles = true;
   for (const int profile : {2, 5}) {
     model.Profile(profile).count = 1;
     model.ProfilePts(0, profile).X = model.ProfilePts(1, profile).Z = profile;
@@ -160,9 +161,9 @@ TEST_F(Shaded, ProfilesAndOtherEdges) {
 }
 
 TEST_F(Shaded, MarkedPoints) {
-  settings.showChosenPoints = settings.showAllPoints = true;
-  settings.firstChosenPoint = 2, settings.lastChosenPoint = 4;
-  settings.chosenPoint = 3;
+  settings.shown.showChosenPoints = settings.shown.showAllPoints = true;
+  settings.shown.firstChosenPoint = 2, settings.shown.lastChosenPoint = 4;
+  settings.shown.chosenPoint = 3;
   for (const int i : {1, 2, 3}) model.PointMark(0, i) = 1;
   model.PointMark(0, 4) = 0;
   EXPECT_EQ(Drawn(), (Lines{"PointSize 3", "Begin Points", "Color3f 0.8 0.2 0.2", "Vertex3f 4 5 6",
@@ -172,7 +173,7 @@ TEST_F(Shaded, MarkedPoints) {
 }
 
 TEST_F(Shaded, FaultEndsTheShape) {
-  settings.showFaces = true;
+  settings.shown.showWire = true;
   SetFaces(0, 3);
   model.Faces(0, 2).group = 42;
   model.Faces(0, 2).onoff = 0;

@@ -207,7 +207,7 @@ TEST_F(EditGeometryWindow, TheOriginIsDraggedInUnitsOfTheView) {
   window.Check3.SetValue(false);
   window.Command18.Press();
   Drag("Picture4", 2.5F, 3);
-  EXPECT_EQ(window.Picture4.picture.ScaleWidth(), 90);  // 120 pixels of 0.75 units
+  EXPECT_EQ(window.Picture4.picture.ScaleWidth(), 82.5);  // 110 pixels of 0.75 units
   EXPECT_LT(window.Picture4.picture.ScaleHeight(), 0);
   Drag("Picture4", 50, -7, kRight);
   EXPECT_EQ(Origin(app), (Vec3{2.5, 3, -7}));
