@@ -11,6 +11,7 @@
 #include "windows/image_commands.h"
 #include "windows/mdi_form1.h"
 #include "windows/quick_save.h"
+#include "windows/refresh_views.h"
 #include "windows/revolveprof_revolve_profile.h"
 #include "windows/shared_parameters.h"
 #include "windows/weld_seam.h"
@@ -207,6 +208,7 @@ void RunMenuCommand(App& app, const MenuCommand& command) {
     case CommandKind::Show:
       app.FindWindow(command.target)->Show();
       if (command.kind == CommandKind::EditAndOn) SwitchOn(app, command.also);
+      if (command.kind != CommandKind::Show) RefreshViews(app);  // what showed the mode goes
       return;
     case CommandKind::Press:
       FindControl(app, command.target)->Press({});

@@ -5,6 +5,7 @@
 
 #include "core/chosen_points.h"
 #include "geometry/edit_chosen_points.h"
+#include "views/draw_views.h"
 #include "views/pick_points.h"
 #include "windows/app.h"
 #include "windows/drag_factor.h"
@@ -67,6 +68,17 @@ void GeometryDrag::FollowView() {
     default:
       area.SetScale(width, height);
   }
+}
+
+void GeometryDrag::ShowView(ViewSettings settings) {
+  FollowView();
+  if (mode_() == GeometryMode::PickPoints) {
+    settings.showGrid = settings.showChosenPoints = settings.showAllPoints = false;
+    DrawViews(app_.model, settings, picture_.picture);
+  } else {
+    picture_.picture.Clear();
+  }
+  picture_.NotifyChanged();
 }
 
 void GeometryDrag::Press(const MouseEvent& event) {

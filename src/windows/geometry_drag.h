@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "controls/picture_box.h"
+#include "views/view_settings.h"
 
 namespace pelorium {
 
@@ -25,6 +26,9 @@ class GeometryDrag {
   // of the view for the origin, so that it keeps step with the mouse; the whole view for picks, so that a
   // place of the area means that place of the view.
   void FollowView();
+
+  // An area that picks shows the wire of the view in miniature; what other areas showed goes.
+  void ShowView(ViewSettings settings);
 
  private:
   void Press(const MouseEvent& event);

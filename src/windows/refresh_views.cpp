@@ -14,6 +14,7 @@
 #include "windows/formulas_edit_profile.h"
 #include "windows/shaded_view.h"
 #include "windows/shared_parameters.h"
+#include "windows/specialeffects5_edit_geometry.h"
 
 namespace pelorium {
 
@@ -74,6 +75,7 @@ void RefreshViews(App& app) {
     if (settings.mode != ViewMode::None) view.Label54.SetCaption(std::string(ViewCaption(settings)));
     view.mouse.Refreshed();
     DrawViews(app.model, settings, view.Picture1.picture);
+    app.specialeffects5.ShowView(settings);
   });
 }
 

@@ -74,7 +74,7 @@ void SpecialEffects5::BindParameters() {
   HScroll1.onChange = [this] { app_.form51.HScroll4.SetValue(HScroll1.value()); };
   Check1.onClick = [this](const Click&) { app_.form51.Check7.SetValue(Check1.value()); };
   for (OptionButton* option : {&Option7, &Option8, &Option9, &Option10, &Option11}) {
-    option->onClick = [this](const Click&) { drag_.FollowView(); };
+    option->onClick = [this](const Click&) { drag_.ShowView(GatherViewSettings(app_)); };
   }
 }
 
@@ -149,6 +149,12 @@ Axis SpecialEffects5::PickAxis() const {
 }
 
 void SpecialEffects5::ShowPart(int part) { HScroll1.SetValue(part); }
+
+void SpecialEffects5::ShowView(const ViewSettings& settings) {
+  if (!visible()) return;
+  if (Option10.value()) drag_.ShowView(settings);
+  picking_.ShowView(settings);
+}
 
 // The limits of the View Options are those of the Part's faces. The values are taken before a new limit can
 // pull them, and the bars write nothing back meanwhile.

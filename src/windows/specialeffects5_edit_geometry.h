@@ -23,6 +23,9 @@ class SpecialEffects5 : public Window {
   // "Part #" shows the current Part.
   void ShowPart(int part);
 
+  // The areas that pick show the view anew. Does nothing while the window is closed.
+  void ShowView(const ViewSettings& settings);
+
   // "Faces Start" and "Faces End" show the face range of the View Options; with "Autopick Pts" its points are
   // chosen, unless automatic actions are held.
   void FollowFaceRange();

@@ -269,5 +269,18 @@ TEST_F(EditGeometryWindow, ThePartAndItsWireFollow) {
   EXPECT_FALSE(app.form51.Check7.value());
 }
 
+TEST_F(EditGeometryWindow, TheOpenWindowShowsTheViewInItsPickArea) {
+  const auto middleOfTheEdge = [&] { return window.Picture5.picture.PixelAt(129, 54); };
+  CopyPosition(Point(2), Vec3{400, 200, 0});
+  app.form51.Option5.SetValue(true);
+  SyncFaceCorners(app);
+  RefreshViews(app);
+  const int ground = middleOfTheEdge();
+  PressItem("special5");
+  EXPECT_NE(middleOfTheEdge(), ground);
+  app.form51.Check7.SetValue(false);
+  EXPECT_EQ(middleOfTheEdge(), ground);
+}
+
 }  // namespace
 }  // namespace pelorium
