@@ -48,6 +48,10 @@ PickView ProfileView(const App& app) {
           static_cast<double>(app.form36.VScroll1.value())};
 }
 
+bool MovesProfile(const App& app) {
+  return app.form36.Option1.value() && app.form51.Option1.value() && !IsLeaning(app);
+}
+
 // Where the mouse stands in the plane of the profile view.
 ProfileClick ProfileClickAt(const App& app, const MouseEvent& event) {
   ProfileClick click;
@@ -195,14 +199,18 @@ void ViewMouse::Move(const MouseEvent& event) {
   Guarded([&] {
     const bool isShaded = app_.form51.Option11.value();
     if (isShaded && DragActive != 0) DragShaded(event);
-    if (layer_ && DragActive != 0 && app_.form36.Option1.value()) MoveLayer(event);
+    if (layer_ && DragActive != 0 && MovesProfile(app_)) MoveLayer(event);
     ShowPlace(event);
     if (isShaded) return;
     if (DragActive != 0) {
       Brush(event);
       DragModel(app_, StepTo(event), axes_);
     }
-    if (app_.form36.Option10.value()) MovePick(event);
+    if (app_.form36.Option10.value()) {
+      MovePick(event);
+    } else if (app_.form36.Shape5.visible()) {
+      ShowOverlay();  // picking was switched off
+    }
     if (DragActive != 0) Hold(event);
   });
 }

@@ -109,6 +109,32 @@ TEST_F(FaceTest, ProfilePointsAreDrawnWithTheMouse) {
   EXPECT_GT(qGray(screen.pixel(450, 150)), 150) << "the line between the first two points";
 }
 
+// With real events on the widget: drawn, revolved, moved, seen shaded.
+TEST_F(FaceTest, ADragMovesThePartAndTheScreenShowsTheSamePixels) {
+  auto& widget = Shown<QWidget>("Form36.Picture1");
+  auto& box = Controlled<PictureBox>("Form36", "Picture1");
+  for (const QPoint place : {QPoint(360, 100), QPoint(400, 200), QPoint(360, 300)}) {
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, place);
+  }
+  Controlled<PushButton>("revolveprof", "Command15").Press({});
+  Controlled<OptionButton>("Form51", "Option5").SetValue(true);
+  const double before = app().model.Points(0, 1).X;
+  QTest::keyClick(&widget, Qt::Key_M);
+  QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(300, 300));
+  for (const int x : {310, 330, 350}) {
+    QTest::mouseMove(&widget, QPoint(x, 300));
+    Settle();
+  }
+  QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(350, 300));
+  EXPECT_EQ(app().model.Points(0, 1).X, before + 1 + 2 + 2);
+  EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture), 0);
+
+  QTest::mouseClick(&Shown<QWidget>("Form36.Command16"), Qt::LeftButton);
+  Settle();
+  EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture), 0);
+  EXPECT_EQ(box.picture.PixelAt(box.picture.PixelWidth() - 1, 0), 0) << "black outside the shaded square";
+}
+
 TEST_F(FaceTest, ButtonsKeysAndTheNewestMoveAreTold) {
   auto& widget = Shown<QWidget>("Form36.Picture1");
   QTest::mousePress(&widget, Qt::RightButton, Qt::ShiftModifier | Qt::ControlModifier, QPoint(10, 20));

@@ -105,7 +105,8 @@ INSTANTIATE_TEST_SUITE_P(Examples, SmallModels,
                                            SmallModel{"capped-box", 5 * 4 * 2 - 1 + 3 + 3, 5 * 5},
                                            SmallModel{"terrain-row", 34 * 19 * 2 - 1, 34 * 20},
                                            SmallModel{"banner", 37 * 7 * 2 - 1, 37 * 8},
-                                           SmallModel{"pyramid", 4 + 2, 7}),
+                                           SmallModel{"pyramid", 4 + 2, 7},
+                                           SmallModel{"spouted-jug", 25 * 6 * 2 - 1, 25 * 8 + 1}),
                          [](const auto& made) {
                            std::string name = made.param.name;
                            std::replace(name.begin(), name.end(), '-', '_');
