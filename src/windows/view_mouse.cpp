@@ -248,7 +248,8 @@ void ViewMouse::ShowPlace(const MouseEvent& event) {
   if (app_.form51.Option1.value() && app_.form51.Check15.value()) ShowNextLine(event);
 }
 
-// From the last point drawn to the mouse, over the picture and with its length.
+// From the last point drawn to the mouse, over the picture and with its length. Points that are moved have no
+// next one.
 void ViewMouse::ShowNextLine(const MouseEvent& event) {
   const int profile = CurrentProfile(app_);
   const int count = app_.model.Profile(profile).count;
@@ -259,7 +260,7 @@ void ViewMouse::ShowNextLine(const MouseEvent& event) {
   const double dx = event.x - x, dy = event.y - y;
   app_.form36.Label13.SetCaption(RoundedForm(std::sqrt(dx * dx + dy * dy), kLengthDecimals));
   nextLine_.reset();
-  if (count > 0) {
+  if (count > 0 && !MovesProfile(app_)) {
     nextLine_ = {static_cast<float>(x), static_cast<float>(y), event.x, event.y, kNextLineColour};
   }
   ShowOverlay();
