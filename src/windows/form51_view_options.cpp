@@ -161,7 +161,6 @@ void Form51::Command2_Click() {
   Option11.SetValue(true);
   app_.shadedView->InitShadedContext();
   RefreshViews(app_);
-  app_.shadedView->DrawPreview(Picture3);
 }
 
 void Form51::Option7_Click() {
@@ -173,7 +172,7 @@ void Form51::Picture3_MouseDown(const MouseEvent& event) {
   app_.shadedView->InitShadedContext();
   lastPreviewEvent_ = event;
   isPreviewDragged_ = true;
-  app_.shadedView->DrawPreview(Picture3);
+  app_.shadedView->DrawPreview();
 }
 
 void Form51::Picture3_MouseMove(const MouseEvent& event) {
@@ -181,8 +180,7 @@ void Form51::Picture3_MouseMove(const MouseEvent& event) {
   ShadedView& shaded = *app_.shadedView;
   shaded.DragPose(event, double{event.x} - lastPreviewEvent_.x, double{event.y} - lastPreviewEvent_.y);
   lastPreviewEvent_ = event;
-  if (Option11.value()) RefreshViews(app_);
-  shaded.DrawPreview(Picture3);
+  Option11.value() ? RefreshViews(app_) : shaded.DrawPreview();
 }
 
 void Form51::Command5_Click() {

@@ -71,13 +71,17 @@ void ShadedView::DrawShaded() {
   Form36& view = app_.form36;
   view.Label54.SetCaption(" SHADED VIEW ");
   view.Picture1.picture.overlay.clear();
-  Draw(viewFrame_, view.Picture1, app_.form51.HScroll1.value());
+  const bool isWhole = Draw(viewFrame_, view.Picture1, app_.form51.HScroll1.value());
+  if (isWhole && app_.form51.visible()) DrawPreview();
 }
 
-void ShadedView::DrawPreview(PictureBox& box) { Draw(previewFrame_, box, box.picture.PixelWidth()); }
+void ShadedView::DrawPreview() {
+  PictureBox& preview = app_.form51.Picture3;
+  Draw(previewFrame_, preview, preview.picture.PixelWidth());
+}
 
-void ShadedView::Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide) {
-  Trapped(app_.faults, "DrawShaded", [&] {
+bool ShadedView::Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide) {
+  return Trapped(app_.faults, "DrawShaded", [&] {
     box.picture.Clear();
     box.NotifyChanged();
     GlSurface* surface = Surface();

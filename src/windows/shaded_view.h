@@ -22,12 +22,12 @@ class ShadedView {
   // The handle of the last context: they are numbered from 1.
   int renderContext() const { return renderContext_; }
 
-  // Draws the model into the view window's picture, as it is now: later changes show with the next drawing. A
-  // machine that has no OpenGL is told of once, and its picture stays blank.
+  // Draws the model into the view window's picture and into the preview, as it is now: later changes show
+  // with the next drawing. A machine that has no OpenGL is told of once, and its pictures stay blank.
   void DrawShaded();
 
-  // The same at the width of a small picture.
-  void DrawPreview(PictureBox& box);
+  // Into the preview of the View Options alone.
+  void DrawPreview();
 
   // What a drag by dx, dy (units of the picture, y upward) does to the pose: left turns about X and Z, right
   // about Y; with Shift left moves in X and Y, right in Z.
@@ -35,7 +35,8 @@ class ShadedView {
 
  private:
   GlSurface* Surface();
-  void Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide);
+  // False after a fault.
+  bool Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide);
 
   App& app_;
   int renderContext_ = 0;
