@@ -20,13 +20,20 @@ bool LogsToStandardError() {
 
 std::string_view FaultKindName(FaultKind kind) {
   switch (kind) {
-    case FaultKind::Subscript: return "subscript out of range";
-    case FaultKind::Overflow: return "overflow";
-    case FaultKind::DivisionByZero: return "division by zero";
-    case FaultKind::BadNumber: return "bad number";
-    case FaultKind::EndOfFile: return "end of file";
-    case FaultKind::FileError: return "file error";
-    case FaultKind::InvalidValue: return "invalid value";
+    case FaultKind::Subscript:
+      return "subscript out of range";
+    case FaultKind::Overflow:
+      return "overflow";
+    case FaultKind::DivisionByZero:
+      return "division by zero";
+    case FaultKind::BadNumber:
+      return "bad number";
+    case FaultKind::EndOfFile:
+      return "end of file";
+    case FaultKind::FileError:
+      return "file error";
+    case FaultKind::InvalidValue:
+      return "invalid value";
   }
   return "fault";
 }
@@ -35,9 +42,16 @@ Fault::Fault(FaultKind kind, std::string detail) : kind_(kind), message_(FaultKi
   if (!detail.empty()) message_ += ": " + detail;
 }
 
+Fault Fault::At(const std::string& place) const {
+  Fault placed = *this;
+  placed.message_ += place;
+  return placed;
+}
+
 void FaultLog::Note(std::string_view where, const std::exception& fault) {
   std::string line = std::string(where) + ": " + fault.what();
   if (LogsToStandardError()) std::fprintf(stderr, "fault: %s\n", line.c_str());
+  if (onNote) onNote(line);
   if (lines_.size() < kCapacity) {
     lines_.push_back(std::move(line));
   } else {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -10,13 +11,13 @@
 namespace pelorium {
 
 enum class FaultKind {
-  Subscript,       // an index outside its table
-  Overflow,        // a number that does not fit its field
+  Subscript,  // an index outside its table
+  Overflow,   // a number that does not fit its field
   DivisionByZero,
-  BadNumber,       // text that is no number, or a NaN or infinity that should become text
+  BadNumber,  // text that is no number, or a NaN or infinity that should become text
   EndOfFile,
   FileError,
-  InvalidValue,    // a value outside a control's Min..Max
+  InvalidValue,  // a value outside a control's Min..Max
 };
 
 std::string_view FaultKindName(FaultKind kind);
@@ -29,19 +30,26 @@ class Fault : public std::exception {
   FaultKind kind() const { return kind_; }
   const char* what() const noexcept override { return message_.c_str(); }
 
+  // The same fault with the place where it happened: ", line 7".
+  Fault At(const std::string& place) const;
+
  private:
   FaultKind kind_;
   std::string message_;
 };
 
-// Keeps the faults that handlers met since the last asking, oldest first. Bounded: a fault that repeats at each
-// mouse move must not eat the memory, so past kCapacity only the count of further faults is kept.
+// Keeps the faults that handlers met since the last asking, oldest first. Bounded: a fault that repeats at
+// each mouse move must not eat the memory, so past kCapacity only the count of further faults is kept.
 class FaultLog {
  public:
   static constexpr std::size_t kCapacity = 1000;
 
-  // `where` names the handler, as "Form31.Command15". With PELORIUM_LOG=1 set the line also goes to standard error.
+  // `where` names the handler, as "Form31.Command15". With PELORIUM_LOG=1 set the line also goes to standard
+  // error.
   void Note(std::string_view where, const std::exception& fault);
+
+  // Hears of each line as it is noted.
+  std::function<void(const std::string& line)> onNote;
 
   // The lines "where: what" since the last call; empties the log.
   std::vector<std::string> TakeAll();

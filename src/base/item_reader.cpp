@@ -15,10 +15,26 @@ bool EndsItem(char c) { return IsBlank(c) || IsLineEnd(c) || c == ','; }
 
 }  // namespace
 
-ItemReader::ItemReader(std::string_view text) : rest_(text.substr(0, text.find(kEndOfText))) {}
+ItemReader::ItemReader(std::string_view text) : text_(text.substr(0, text.find(kEndOfText))), rest_(text_) {}
+
+// The end of a line is its LF, or a CR that no LF follows.
+Fault ItemReader::Place(const Fault& fault) {
+  hasPlace_ = true;
+  int line = 1;
+  for (std::size_t i = 0; i < itemStart_; ++i) {
+    const bool isPair = text_[i] == '\r' && i + 1 < text_.size() && text_[i + 1] == '\n';
+    if (IsLineEnd(text_[i]) && !isPair) ++line;
+  }
+  return fault.At(", line " + std::to_string(line));
+}
 
 double ItemReader::Number() {
+  return Placed([this] { return NextNumber(); });
+}
+
+double ItemReader::NextNumber() {
   SkipBlanksAndLineEnds();
+  itemStart_ = text_.size() - rest_.size();
   if (rest_.empty()) throw Fault(FaultKind::EndOfFile, "a number was expected");
   std::size_t length = 0;
   while (length < rest_.size() && !EndsItem(rest_[length])) ++length;
@@ -34,11 +50,14 @@ double ItemReader::Number() {
 }
 
 std::string_view ItemReader::Line() {
-  if (rest_.empty()) throw Fault(FaultKind::EndOfFile, "a line was expected");
-  const std::string_view line = rest_.substr(0, rest_.find_first_of("\r\n"));
-  rest_.remove_prefix(line.size());
-  SkipOneLineEnd();
-  return line;
+  itemStart_ = text_.size() - rest_.size();
+  return Placed([this] {
+    if (rest_.empty()) throw Fault(FaultKind::EndOfFile, "a line was expected");
+    const std::string_view line = rest_.substr(0, rest_.find_first_of("\r\n"));
+    rest_.remove_prefix(line.size());
+    SkipOneLineEnd();
+    return line;
+  });
 }
 
 bool ItemReader::AtEnd() {

@@ -1,28 +1,29 @@
-// Free-format items of a text, one after another: numbers separated by blanks, tabs, line ends and at most one
-// comma. Line ends are CR LF, LF or CR; character 26 ends the text.
+// Free-format items of a text, one after another: numbers separated by blanks, tabs, line ends and at most
+// one comma. Line ends are CR LF, LF or CR; character 26 ends the text.
 #pragma once
 
 #include <concepts>
 #include <string>
 #include <string_view>
 
+#include "base/fault.h"
 #include "base/numbers.h"
 
 namespace pelorium {
 
 class ItemReader {
  public:
-  // `text` must outlive the reader.
+  // `text` must outlive the reader. Faults end with the line that the item was looked for in, from 1.
   explicit ItemReader(std::string_view text);
 
-  // The next item as a number. An empty item between two commas is 0. An item that is not a number as a whole raises
-  // BadNumber, the end of the text before an item EndOfFile.
+  // The next item as a number. An empty item between two commas is 0. An item that is not a number as a whole
+  // raises BadNumber, the end of the text before an item EndOfFile.
   double Number();
 
   // The next item rounded half to even into an integer field; Overflow outside the field's range.
   template <std::integral Field>
   Field Integer() {
-    return ToInteger<Field>(Number());
+    return Placed([&] { return ToInteger<Field>(Number()); });
   }
 
   // What is left of the present line, as it stands, without its line end. EndOfFile at the end of the text.
@@ -32,11 +33,24 @@ class ItemReader {
   bool AtEnd();
 
  private:
+  // A fault within gets the line of the last item, if it has no place yet.
+  template <typename Read>
+  auto Placed(Read read) {
+    try {
+      return read();
+    } catch (const Fault& fault) {
+      throw hasPlace_ ? fault : Place(fault);
+    }
+  }
+  Fault Place(const Fault& fault);
+  double NextNumber();
   void SkipBlanks();
   void SkipBlanksAndLineEnds();
   bool SkipOneLineEnd();
 
-  std::string_view rest_;
+  std::string_view text_, rest_;
+  std::size_t itemStart_ = 0;
+  bool hasPlace_ = false;  // a fault was raised: reading is over
 };
 
 }  // namespace pelorium

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <optional>
 
 #include "base/fault.h"
 
@@ -78,7 +79,8 @@ std::size_t SkipDigits(std::string_view text, std::size_t at) {
   return at;
 }
 
-// Length of the number at the start of `text`, 0 if there is none. An exponent counts only with a digit in it.
+// Length of the number at the start of `text`, 0 if there is none. An exponent counts only with a digit in
+// it.
 std::size_t NumberLength(std::string_view text) {
   std::size_t at = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
   const std::size_t whole = SkipDigits(text, at);
@@ -99,8 +101,8 @@ std::size_t NumberLength(std::string_view text) {
   return at;
 }
 
-// Of a number out of a double's range: whether it is too small rather than too large. Its first digit that is not 0
-// tells, by its place and the exponent.
+// Of a number out of a double's range: whether it is too small rather than too large. Its first digit that is
+// not 0 tells, by its place and the exponent.
 bool IsTooSmall(std::string_view number) {
   const std::size_t mark = std::min(number.find_first_of("Ee"), number.size());
   const auto point = static_cast<std::int64_t>(std::min(number.find('.'), mark));
@@ -115,8 +117,8 @@ bool IsTooSmall(std::string_view number) {
   return exponent < first - point;
 }
 
-// Converts text that NumberLength has measured.
-double Convert(std::string_view number) {
+// Converts text that NumberLength has measured; nothing for a number too large for a double.
+std::optional<double> Convert(std::string_view number) {
   if (number.front() == '+') number.remove_prefix(1);
   std::string withE;
   const std::size_t d = number.find_first_of("Dd");
@@ -129,7 +131,7 @@ double Convert(std::string_view number) {
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
     if (IsTooSmall(number)) return 0;
-    throw Fault(FaultKind::Overflow, std::string(number.substr(0, 40)));
+    return std::nullopt;
   }
   return value;
 }
@@ -208,7 +210,7 @@ double Val(std::string_view text) {
   if (start == std::string_view::npos) return 0;
   text.remove_prefix(start);
   const std::size_t length = NumberLength(text);
-  return length == 0 ? 0 : Convert(text.substr(0, length));
+  return length == 0 ? 0 : Convert(text.substr(0, length)).value_or(0);
 }
 
 double WholeNumber(std::string_view text) {
@@ -216,7 +218,9 @@ double WholeNumber(std::string_view text) {
   if (length == 0 || length != text.size()) {
     throw Fault(FaultKind::BadNumber, "\"" + std::string(text.substr(0, 40)) + "\"");
   }
-  return Convert(text);
+  const std::optional<double> value = Convert(text);
+  if (!value) throw Fault(FaultKind::Overflow, std::string(text.substr(0, 40)));
+  return *value;
 }
 
 void RaiseOverflow(double value) { throw Fault(FaultKind::Overflow, ShortestForm(value)); }

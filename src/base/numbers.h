@@ -14,12 +14,12 @@ inline constexpr double kRadiansPerDegree = 0.01745329;
 
 double RoundHalfEven(double value);
 
-// Rounded to `decimals` places, ties to even. From 2^52 scaled units on, a double has no such places left and the
-// value stays. Never -0.
+// Rounded to `decimals` places, ties to even. From 2^52 scaled units on, a double has no such places left and
+// the value stays. Never -0.
 double RoundTo(double value, int decimals);
 
-// General form: up to 15 significant digits, no blanks, trailing zeros cut; plain digits from 1E-15 to below 1E15,
-// else "1.5E-16", "1E+15". Zero is "0". A NaN or an infinity raises BadNumber.
+// General form: up to 15 significant digits, no blanks, trailing zeros cut; plain digits from 1E-15 to below
+// 1E15, else "1.5E-16", "1E+15". Zero is "0". A NaN or an infinity raises BadNumber.
 std::string GeneralForm(double value);
 void AppendGeneralForm(std::string& text, double value);
 
@@ -27,15 +27,17 @@ void AppendGeneralForm(std::string& text, double value);
 std::string RoundedForm(double value, int decimals);
 void AppendRoundedForm(std::string& text, double value, int decimals);
 
-// A number printed alone: general form, one leading blank if not negative, one trailing blank. " 0.25 ", "-0.5 ".
+// A number printed alone: general form, one leading blank if not negative, one trailing blank. " 0.25 ",
+// "-0.5 ".
 std::string PrintForm(double value);
 
-// The shortest digits that read back as the same double, laid out like the general form. NaN and infinities come
-// out as "nan", "inf", "-inf": this form is for showing a value, never for files.
+// The shortest digits that read back as the same double, laid out like the general form. NaN and infinities
+// come out as "nan", "inf", "-inf": this form is for showing a value, never for files.
 std::string ShortestForm(double value);
 std::string ShortestForm(float value);
 
-// The longest leading number of a text (blanks before it are passed over), else 0: how text boxes are read.
+// The longest leading number of a text (blanks before it are passed over), else 0: how text boxes are read. A
+// number too large for a double is 0 too: what is typed never ends a handler.
 double Val(std::string_view text);
 
 // A text that is a number as a whole: sign, digits, point, exponent E or D. Anything else raises BadNumber, a

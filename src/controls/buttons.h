@@ -12,12 +12,16 @@ class PushButton : public Control {
   PushButton(Window& owner, std::string name, std::string caption, std::string toolTip = {});
   using Control::Press;
   void Press(MouseButton button = MouseButton::Left) { Control::Press(Click{button, {}}); }
+
+  // A face presses it when the mouse button goes down over it, not when it is let go.
+  bool actsOnMouseDown = false;
 };
 
 // onClick runs whenever the value changes, whoever changes it.
 class CheckBox : public Control {
  public:
-  CheckBox(Window& owner, std::string name, std::string caption, bool value = false, std::string toolTip = {});
+  CheckBox(Window& owner, std::string name, std::string caption, bool value = false,
+           std::string toolTip = {});
 
   bool value() const { return value_; }
   void SetValue(bool value);
@@ -30,7 +34,8 @@ class CheckBox : public Control {
   bool value_;
 };
 
-// Options of one window with the same group name exclude each other. onClick runs when the option is switched on.
+// Options of one window with the same group name exclude each other. onClick runs when the option is switched
+// on.
 class OptionButton : public Control {
  public:
   enum class WhenArmed { Stays, IsDisarmed };  // what a click on the option that is on does

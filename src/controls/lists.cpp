@@ -61,6 +61,15 @@ void ListBox::SetItems(std::vector<std::string> items) {
   NotifyChanged();
 }
 
+void ListBox::ReplaceItems(std::vector<std::string> items) {
+  if (items == items_) return;
+  const std::string kept = chosen();
+  const bool hadOne = index_ >= 0;
+  SetItems(std::move(items));
+  const auto found = std::find(items_.begin(), items_.end(), kept);
+  if (hadOne && found != items_.end()) index_ = static_cast<int>(found - items_.begin());
+}
+
 void ListBox::SetIndex(int index) {
   if (index < -1 || index >= static_cast<int>(items_.size())) {
     throw Fault(FaultKind::InvalidValue, FullName() + " := " + std::to_string(index));
@@ -82,13 +91,20 @@ void ListBox::Pick(int index) {
 void ListBox::SetOwnValue(const PropertyValue& value) { SetIndex(ToInteger<int>(AsNumber(value))); }
 
 FileList::FileList(Window& owner, std::string name, std::string pattern, std::string toolTip)
-    : ListBox(owner, ControlKind::FileList, std::move(name), std::move(toolTip)), pattern_(std::move(pattern)) {}
+    : ListBox(owner, ControlKind::FileList, std::move(name), std::move(toolTip)),
+      pattern_(std::move(pattern)) {}
 
 void FileList::SetFolder(const std::filesystem::path& folder) {
   folder_ = folder;
-  SetItems(SortedNames(folder, [this](const auto& entry, std::error_code& error) {
+  SetItems(FilesThere());
+}
+
+void FileList::Reload() { ReplaceItems(FilesThere()); }
+
+std::vector<std::string> FileList::FilesThere() const {
+  return SortedNames(folder_, [this](const auto& entry, std::error_code& error) {
     return entry.is_regular_file(error) && MatchesPattern(entry.path().filename().string(), pattern_);
-  }));
+  });
 }
 
 std::filesystem::path FileList::ChosenPath() const {

@@ -18,7 +18,9 @@ class ListBox : public Control {
   std::string chosen() const;  // the chosen entry's text, empty when none is
 
   void SetItems(std::vector<std::string> items);  // nothing is chosen afterwards
-  void SetIndex(int index);                       // outside -1..size-1 raises InvalidValue
+  // The same, but an entry of the text that was chosen is chosen again, and no handler runs.
+  void ReplaceItems(std::vector<std::string> items);
+  void SetIndex(int index);  // outside -1..size-1 raises InvalidValue
   // A person clicks on an entry: it is chosen, and onClick runs even when it was chosen before.
   void Pick(int index);
 
@@ -33,17 +35,22 @@ class ListBox : public Control {
   int index_ = -1;
 };
 
-// The files of one folder whose names match a pattern ("*.prj;*.txt"), sorted. A folder that is missing shows empty.
+// The files of one folder whose names match a pattern ("*.prj;*.txt"), sorted. A folder that is missing shows
+// empty.
 class FileList : public ListBox {
  public:
   FileList(Window& owner, std::string name, std::string pattern, std::string toolTip = {});
 
   const std::filesystem::path& folder() const { return folder_; }
   void SetFolder(const std::filesystem::path& folder);
+  // Reads the folder again; the chosen file stays chosen while it is there, and no handler runs.
+  void Reload();
   // Folder, separator and the chosen name; empty when none is chosen.
   std::filesystem::path ChosenPath() const;
 
  private:
+  std::vector<std::string> FilesThere() const;
+
   std::string pattern_;
   std::filesystem::path folder_;
 };
@@ -62,8 +69,8 @@ class DirList : public ListBox {
   std::filesystem::path folder_;
 };
 
-// True when `name` matches one of the patterns (separated by ";"), in which "*" stands for anything; case does not
-// matter.
+// True when `name` matches one of the patterns (separated by ";"), in which "*" stands for anything; case
+// does not matter.
 bool MatchesPattern(std::string_view name, std::string_view patterns);
 
 }  // namespace pelorium

@@ -10,13 +10,15 @@
 
 namespace pelorium {
 
-ScrollBar::ScrollBar(Window& owner, std::string name, BarRange range, std::string caption, std::string toolTip)
+ScrollBar::ScrollBar(Window& owner, std::string name, BarRange range, std::string caption,
+                     std::string toolTip)
     : Control(owner, ControlKind::ScrollBar, std::move(name), std::move(caption), std::move(toolTip)),
       smallChange(range.smallChange),
       largeChange(range.largeChange),
       min_(range.min),
       max_(range.max),
-      value_(range.value) {}
+      value_(range.value),
+      number_(range.value) {}
 
 void ScrollBar::SetValue(int value) {
   if (value != Clamped(value)) {
@@ -50,12 +52,33 @@ int ScrollBar::Clamped(double value) const {
   return value < high ? static_cast<int>(RoundHalfEven(value)) : high;
 }
 
-void ScrollBar::Drag(double value) {
+void ScrollBar::BeginMoveByPerson() {
   movedByPerson = true;
+  if (onMovedByPerson) onMovedByPerson();
+}
+
+void ScrollBar::Drag(double value) {
+  BeginMoveByPerson();
   SetValue(Clamped(value));
 }
 
+bool ScrollBar::TakeTyped(TextBox& box) {
+  BeginMoveByPerson();
+  const double before = number_, wanted = box.Number() * divisor_;
+  const auto [low, high] = std::minmax(min_, max_);
+  value_ = Clamped(wanted);
+  isNumberTyped_ = wanted >= low && wanted <= high;
+  number_ = isNumberTyped_ ? box.Number() : value_ / divisor_;
+  if (!isNumberTyped_) box.ShowInstead(GeneralForm(number_));
+  NotifyChanged();
+  if (number_ == before) return false;
+  if (onChange) onChange();
+  return true;
+}
+
 void ScrollBar::Show(double shown) {
+  isNumberTyped_ = false;
+  number_ = shown;
   value_ = Clamped(shown * divisor_);
   NotifyChanged();
   if (mirror_ != nullptr) mirror_->SetText(GeneralForm(shown));
@@ -64,16 +87,21 @@ void ScrollBar::Show(double shown) {
 void ScrollBar::SetMirror(TextBox& box, double divisor) {
   mirror_ = &box;
   divisor_ = divisor;
+  number_ = value_ / divisor;
   if (box.toolTip().empty()) box.SetToolTip(toolTip());
 }
 
 void ScrollBar::SetOwnValue(const PropertyValue& value) { SetValue(ToInteger<int>(AsNumber(value))); }
 
+// An equal value runs nothing, but a fraction that was typed goes.
 void ScrollBar::Store(int value) {
-  if (value == value_) return;
+  const bool drops = std::exchange(isNumberTyped_, false) && number_ != value / divisor_;
+  if (value == value_ && !drops) return;
+  number_ = value / divisor_;
+  if (value == value_) return mirror_->ShowInstead(GeneralForm(number_));
   value_ = value;
   NotifyChanged();
-  if (mirror_ != nullptr) mirror_->SetText(GeneralForm(Shown()));
+  if (mirror_ != nullptr) mirror_->SetText(GeneralForm(number_));
   if (onChange) onChange();
 }
 
@@ -95,8 +123,8 @@ void ProgressBar::SetOwnValue(const PropertyValue& value) { SetValue(ToInteger<i
 void Mirror(ScrollBar& bar, TextBox& box, double divisor) { bar.SetMirror(box, divisor); }
 
 void Pair(ScrollBar& bar, TextBox& box, double divisor) {
-  bar.SetMirror(box, divisor);
-  box.onKeyUp = [&bar, &box, divisor] { bar.Drag(Val(box.text()) * divisor); };
+  Mirror(bar, box, divisor);
+  box.onKeyUp = [&bar, &box] { bar.TakeTyped(box); };
 }
 
 }  // namespace pelorium

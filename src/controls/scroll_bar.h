@@ -19,14 +19,15 @@ struct BarRange {
 
 class ScrollBar : public Control {
  public:
-  ScrollBar(Window& owner, std::string name, BarRange range, std::string caption = {}, std::string toolTip = {});
+  ScrollBar(Window& owner, std::string name, BarRange range, std::string caption = {},
+            std::string toolTip = {});
 
   int value() const { return value_; }
   int min() const { return min_; }
   int max() const { return max_; }
 
-  // As the program sets it: outside min..max (either order) raises InvalidValue; an equal value does nothing; a
-  // different one moves the mirror and runs onChange once, within the call.
+  // As the program sets it: outside min..max (either order) raises InvalidValue; an equal value does nothing;
+  // a different one moves the mirror and runs onChange once, within the call.
   void SetValue(int value);
   // A value that the new limit leaves outside is pulled to the nearest inside, which runs onChange.
   void SetMin(int min);
@@ -37,16 +38,25 @@ class ScrollBar : public Control {
   int Clamped(double value) const;
   // As a person moves it: clamped, then set.
   void Drag(double value);
+  // As a person types into the box beside it: the bar goes to the nearest whole value inside min..max, and
+  // the number itself, fractions included, is what it stands for. Outside min..max that is the limit, which
+  // the box shows when the typing is over. onChange runs when the number is another one than before; true if
+  // it did.
+  bool TakeTyped(TextBox& box);
   // True when a person moved the bar since this was last set false.
   bool movedByPerson = false;
+  // Runs before the bar moves by a person's hand, whether its value changes or not.
+  std::function<void()> onMovedByPerson;
 
-  // Shows a record's value: the bar goes to the nearest it can, the mirror shows the number itself, and no handler
-  // runs, so that nothing is written back.
+  // Shows a record's value: the bar goes to the nearest it can, the mirror shows the number itself, and no
+  // handler runs, so that nothing is written back.
   void Show(double shown);
 
-  // `box` shows value / divisor in general form from now on. Without a tool tip of its own it takes the bar's.
+  // `box` shows value / divisor in general form from now on. Without a tool tip of its own it takes the
+  // bar's.
   void SetMirror(TextBox& box, double divisor);
-  double Shown() const { return value_ / divisor_; }
+  // What the bar stands for: value / divisor, or the finer number that was typed or shown.
+  double Shown() const { return number_; }
 
   PropertyValue Value() const override { return static_cast<double>(value_); }
   void SetOwnValue(const PropertyValue& value) override;
@@ -56,10 +66,13 @@ class ScrollBar : public Control {
 
  private:
   void Store(int value);
+  void BeginMoveByPerson();
 
   int min_, max_, value_;
   TextBox* mirror_ = nullptr;
   double divisor_ = 1;
+  double number_;
+  bool isNumberTyped_ = false;
 };
 
 // Shows how far a long job is. The face repaints it while the handler still runs.
@@ -81,7 +94,7 @@ class ProgressBar : public Control {
 
 // The box shows the bar's value / divisor.
 void Mirror(ScrollBar& bar, TextBox& box, double divisor = 1);
-// The same, and what a person types into the box moves the bar, held in its limits.
+// The same, and what a person types into the box moves the bar: see TakeTyped.
 void Pair(ScrollBar& bar, TextBox& box, double divisor = 1);
 
 }  // namespace pelorium

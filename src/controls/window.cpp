@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/control.h"
+#include "controls/lists.h"
 
 namespace pelorium {
 
@@ -15,7 +16,14 @@ void Window::SetCaption(std::string caption) {
   NotifyChanged();
 }
 
+void Window::ReloadFileLists() {
+  for (Control* control : controls_) {
+    if (control->kind() == ControlKind::FileList) static_cast<FileList*>(control)->Reload();
+  }
+}
+
 void Window::Show() {
+  ReloadFileLists();
   visible_ = true;
   ++shows_;
   NotifyChanged();

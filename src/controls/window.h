@@ -41,10 +41,12 @@ class Window {
   double top() const { return top_; }
 
   void SetCaption(std::string caption);
+  // Lists of files show what is there now.
   void Show();
   void Hide();
   // A person closes the window.
   virtual void Close() { Hide(); }
+  void ReloadFileLists();
   // In twips of the frame, 15 to a pixel.
   void MoveTo(double left, double top);
 

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -58,6 +59,9 @@ struct ProfilePointRec {
   double secMultX = 1, secMultY = 1;                  // section
   double addXAmt1 = 0, addYAmt1 = 0, addZAmt1 = 0;  // section, layer, section: amounts of effector profile 1
   double addXAmt2 = 0, addYAmt2 = 0, addZAmt2 = 0;  // the same of effector profile 2
+  // What a file held in the place of the header's `first` and `count`, in the records other than point 1's.
+  // Kept so that a file that is opened and saved stays the same.
+  std::int16_t spareFirst = 0, spareCount = 0;
 };
 
 // What a profile has once.
@@ -89,6 +93,12 @@ struct FaceRec {
   std::int16_t vt1 = 0, vt2 = 0, vt3 = 0;  // UV point numbers of the corners
 };
 
+// The points of a generated body as they were laid: rows of `width` points, numbered row by row from 1.
+struct LaidGrid {
+  int width = 0, rows = 0;
+  bool operator==(const LaidGrid&) const = default;
+};
+
 // What a Part has once.
 struct PartHeader {
   std::int16_t maxpoints = 0, minpoints = 1;  // highest and lowest point number in use
@@ -98,6 +108,8 @@ struct PartHeader {
   std::int16_t vtfacecount = 1;  // last face with UV points
   std::int16_t Sections = 31;  // last point number of a ring, counted from 0: rings have Sections + 1 points
   std::int16_t count = 0;      // `count` of the profile that the Part was made from
+  std::optional<LaidGrid>
+      grid;  // while the Part is still what Revolve, Extrude or the mesh grid built; in no file
 };
 
 struct MaterialRec {

@@ -17,10 +17,12 @@ using PointLines = std::vector<RecordLine<P>>;
 
 constexpr int kHeaderPoint = 1;  // the point of a profile whose record carries the header's counts
 
-// Stands first in each point's record. Behind it `first` and `count` follow, which only mean anything in the
-// record that carries the header.
+// Stands first in each point's record. Behind it two whole numbers follow: `first` and `count` in the record
+// that carries the header, in the others they mean nothing and are kept.
 const RecordLine<P> kPosition = Fractions<P>({&P::X, &P::Y, &P::Z}, ItemForm::Rounded);
 const RecordLine<H> kCounts = {{&H::first}, {&H::count, ItemForm::Exact, 0, kMaxLayer}};
+
+const RecordLine<P> kSpares = WholeNumbers<P>({&P::spareFirst, &P::spareCount});
 
 const HeaderLines kHeader = {
     Fractions<H>({&H::genRotateX, &H::genTurnY, &H::genSpinZ}),
@@ -47,7 +49,6 @@ const PointLines kPointWithoutSecond = {kLayerSettings, kFirstAmounts, kLayerSca
 }  // namespace
 
 void WriteProfiles(const ModelStore& model, TextWriter& out) {
-  static const ProfileHeader kNoCounts;
   for (int a = 0; a <= kMaxProfile; ++a) {
     WriteLines<H>(out, model.Profile(a), kHeader);
     WriteLines<H>(out, model.Profile(a), kSecondOfHeader);
@@ -55,7 +56,11 @@ void WriteProfiles(const ModelStore& model, TextWriter& out) {
       const ProfilePointRec& point = model.ProfilePts(a, b);
       WriteItems(out, point, kPosition);
       out.Text(" ");
-      WriteItems(out, a == kHeaderPoint ? model.Profile(b) : kNoCounts, kCounts);
+      if (a == kHeaderPoint) {
+        WriteItems(out, model.Profile(b), kCounts);
+      } else {
+        WriteItems(out, point, kSpares);
+      }
       out.EndLine();
       WriteLines<P>(out, point, kPoint);
     }
@@ -70,8 +75,11 @@ void ReadProfiles(ModelStore& model, ItemReader& in, ProfileItems items) {
     for (int b = 0; b <= kMaxProfile; ++b) {
       ProfilePointRec& point = model.ProfilePts(a, b);
       ReadItems(in, point, kPosition);
-      ProfileHeader unused;
-      ReadItems(in, a == kHeaderPoint ? model.Profile(b) : unused, kCounts);
+      if (a == kHeaderPoint) {
+        ReadItems(in, model.Profile(b), kCounts);
+      } else {
+        ReadItems(in, point, kSpares);
+      }
       ReadLines<P>(in, point, all ? kPoint : kPointWithoutSecond);
     }
   }

@@ -54,6 +54,7 @@ void WriteFaces(const ModelStore& model, int part, TextWriter& out) {
 // Returns the file's own count of points, which the points block follows.
 int ReadFaces(ModelStore& model, int part, ItemReader& in) {
   PartHeader& header = model.Part(part);
+  header.grid.reset();
   const int points = ReadCounter(in, header.maxpoints, kMaxPoints);
   ReadCounter(in, header.minpoints, kMaxPoints);
   const int faces = ReadCounter(in, header.maxfaces, kMaxFaces);

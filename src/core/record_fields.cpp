@@ -43,6 +43,8 @@ constexpr RecordField<ProfilePointRec> kProfilePointFields[] = {
     {"addXAmt2", &ProfilePointRec::addXAmt2},
     {"addYAmt2", &ProfilePointRec::addYAmt2},
     {"addZAmt2", &ProfilePointRec::addZAmt2},
+    {"first", &ProfilePointRec::spareFirst},
+    {"count", &ProfilePointRec::spareCount},
     // The tables' names of the same fields.
     {"AngleX", &ProfilePointRec::rotateX},
     {"AngleY", &ProfilePointRec::turnY},

@@ -1,6 +1,7 @@
 // Buttons of all sorts on the screen.
 #include "desktop/button_widgets.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <utility>
@@ -16,7 +17,7 @@ namespace {
 template <typename View, typename Source>
 void SyncChecked(View& view, const Source& control) {
   const QSignalBlocker quiet(&view);
-  const QString caption = CaptionToShow(control.caption());
+  const QString caption = ToQt(control.caption());
   if (view.text() != caption) view.setText(caption);
   view.setChecked(control.value());
   SyncCommon(view, control);
@@ -28,14 +29,14 @@ PushButtonWidget::PushButtonWidget(PushButton& button, Dispatcher& dispatcher, Q
     : QPushButton(parent), button_(button), dispatcher_(dispatcher) {
   setAutoDefault(false);
   connect(this, &QPushButton::clicked, this, [this] {
-    dispatcher_.Press(button_, {MouseButton::Left, std::exchange(keys_, {})});
+    if (!std::exchange(wasTold_, false)) Tell(MouseButton::Left, std::exchange(keys_, {}));
   });
   Adopt(*this, button, dispatcher);
   PushButtonWidget::Sync();
 }
 
 void PushButtonWidget::Sync() {
-  const QString caption = CaptionToShow(button_.caption());
+  const QString caption = ToQt(button_.caption());
   if (text() != caption) setText(caption);
   SyncCommon(*this, button_);
 }
@@ -47,14 +48,19 @@ QSize PushButtonWidget::sizeHint() const {
   return {ofText.width() + 22, std::max(usual.height(), ofText.height() + 10)};
 }
 
+void PushButtonWidget::Tell(MouseButton button, Keys keys) { dispatcher_.Press(button_, {button, keys}); }
+
 void PushButtonWidget::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::RightButton) {
+  const bool isRight = event->button() == Qt::RightButton;
+  wasTold_ = button_.actsOnMouseDown && (isRight || event->button() == Qt::LeftButton);
+  if (isRight) {
+    setFocus(Qt::MouseFocusReason);
+    setDown(true);
+    event->accept();
+  } else {
     QPushButton::mousePressEvent(event);
-    return;
   }
-  setFocus(Qt::MouseFocusReason);
-  setDown(true);
-  event->accept();
+  if (wasTold_) Tell(isRight ? MouseButton::Right : MouseButton::Left, KeysHeld(event->modifiers()));
 }
 
 void PushButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -62,12 +68,22 @@ void PushButtonWidget::mouseReleaseEvent(QMouseEvent* event) {
     keys_ = KeysHeld(event->modifiers());
     QPushButton::mouseReleaseEvent(event);
     keys_ = {};
-    return;
+  } else {
+    setDown(false);
+    event->accept();
+    const bool isClick = !wasTold_ && hitButton(event->position().toPoint());
+    if (isClick) Tell(MouseButton::Right, KeysHeld(event->modifiers()));
   }
-  setDown(false);
-  event->accept();
-  if (!hitButton(event->position().toPoint())) return;
-  dispatcher_.Press(button_, {MouseButton::Right, KeysHeld(event->modifiers())});
+  wasTold_ = false;
+}
+
+// Enter presses as Space does.
+void PushButtonWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    click();
+  } else {
+    QPushButton::keyPressEvent(event);
+  }
 }
 
 CheckBoxWidget::CheckBoxWidget(CheckBox& box, Dispatcher& dispatcher, QWidget* parent)

@@ -22,11 +22,15 @@ class PushButtonWidget : public QPushButton, public ControlView {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void Tell(MouseButton button, Keys keys);
+
   PushButton& button_;
   Dispatcher& dispatcher_;
-  Keys keys_;  // held down with the mouse button that is being let go
+  Keys keys_;             // held down with the mouse button that is being let go
+  bool wasTold_ = false;  // the press was told when the mouse button went down
 };
 
 // The mark is the control's value and nothing else: a click only tells the program.

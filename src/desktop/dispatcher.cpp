@@ -63,6 +63,7 @@ void Dispatcher::DeliverNow(const UserEvent& event) {
 }
 
 void Dispatcher::RunHandlers(const UserEvent& event) {
+  if (onDelivering) onDelivering();
   isBusy_ = true;
   journal_.BeginDelivery();
   Trapped(app_.faults, event.window + "." + event.control, [&] { app_.Deliver(event); });

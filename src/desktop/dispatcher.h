@@ -43,8 +43,8 @@ class Dispatcher {
   // Runs a loop inside a handler (a dialog, a modal window): events go through while it lasts.
   void RunNested(const std::function<void()>& loop);
 
-  // After each delivery: the moment to show what changed.
-  std::function<void()> onDelivered;
+  // Before each delivery, and after it: the moment to show what changed.
+  std::function<void()> onDelivering, onDelivered;
 
  private:
   void DeliverNow(const UserEvent& event);

@@ -31,9 +31,13 @@ Face::Face(App& app, Dispatcher& dispatcher)
     : app_(app), dispatcher_(dispatcher), builder_(dispatcher, views_) {
   app_.host.listener = this;
   dispatcher_.onDelivered = [this] { Refresh(); };
+  dispatcher_.onDelivering = [this] { frame_->ForgetFault(); };
   Window& frameWindow = Needed(app, kFrameWindow);
   Window& splashWindow = Needed(app, kSplashWindow);
   frame_ = std::make_unique<MainWindow>(frameWindow, dispatcher_);
+  app_.notices.onNotice = [this](const std::string& text, NoticeKind kind) {
+    frame_->ShowNotice(text, kind);
+  };
   splash_ = std::make_unique<SplashWindow>(splashWindow, builder_, views_, dispatcher_);
   for (Window* window : app_.windows()) {
     if (window == &frameWindow || window == &splashWindow) continue;
@@ -44,7 +48,8 @@ Face::Face(App& app, Dispatcher& dispatcher)
 
 Face::~Face() {
   app_.host.listener = nullptr;
-  dispatcher_.onDelivered = nullptr;
+  app_.notices.onNotice = nullptr;
+  dispatcher_.onDelivered = dispatcher_.onDelivering = nullptr;
 }
 
 void Face::Begin() {
@@ -131,7 +136,7 @@ void Face::RunModal(Window& window) {
   window.Show();
   Refresh();
   QDialog& dialog = view->AsDialog(frame_.get());
-  dialog.setWindowTitle(CaptionToShow(window.caption()));
+  dialog.setWindowTitle(ToQt(window.caption()));
   dialog.resize(view->ComfortableSize(frame_->size()));
   dialog.show();
   QEventLoop loop;

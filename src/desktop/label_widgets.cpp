@@ -32,7 +32,7 @@ LabelWidget::LabelWidget(Control& label, Dispatcher& dispatcher, QWidget* parent
 }
 
 void LabelWidget::Sync() {
-  const QString caption = CaptionToShow(label_.caption());
+  const QString caption = ToQt(label_.caption());
   if (text() != caption) {
     setText(caption);
     KeepRoom();
@@ -56,7 +56,7 @@ GroupWidget::GroupWidget(Control& frame, Dispatcher& dispatcher, QWidget* parent
 }
 
 void GroupWidget::Sync() {
-  setTitle(CaptionToShow(frame_.caption()));
+  setTitle(ToQt(frame_.caption()));
   SyncCommon(*this, frame_);
 }
 

@@ -58,7 +58,7 @@ int ColumnsOf(const std::vector<LayoutItem>& items) {
 }
 
 QLabel* MakeText(const std::string& text, QWidget* parent) {
-  auto* label = new QLabel(CaptionToShow(text), parent);
+  auto* label = new QLabel(ToQt(text), parent);
   if (label->sizeHint().width() > kWidestLabel) {
     label->setWordWrap(true);
     label->setFixedWidth(kWidestLabel);
@@ -186,7 +186,7 @@ QWidget* LayoutBuilder::MakeRow(const LayoutItem& item, QWidget* parent) {
 // A title that is wider than a tool window becomes text that wraps, above an untitled box.
 QWidget* LayoutBuilder::MakeFrame(const LayoutItem& item, QWidget* parent) {
   if (item.controls.empty()) {
-    const QString title = CaptionToShow(item.title);
+    const QString title = ToQt(item.title);
     if (parent->fontMetrics().horizontalAdvance(title) > kWidestTitle) return MakeWrappedFrame(item, parent);
     auto* box = new QGroupBox(title, parent);
     box->setToolTip(QString::fromStdString(item.toolTip));
@@ -200,7 +200,7 @@ QWidget* LayoutBuilder::MakeFrame(const LayoutItem& item, QWidget* parent) {
 QWidget* LayoutBuilder::MakeWrappedFrame(const LayoutItem& item, QWidget* parent) {
   auto* holder = new QWidget(parent);
   auto* layout = WithoutMargins(new QVBoxLayout(holder));
-  auto* title = new QLabel(CaptionToShow(item.title), holder);
+  auto* title = new QLabel(ToQt(item.title), holder);
   title->setWordWrap(true);
   layout->addWidget(title);
   LayoutItem untitled = item;

@@ -1,13 +1,15 @@
 // The desktop program.
 #include <QApplication>
-#include <QFile>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
+#include <string_view>
 
 #include "desktop/appearance.h"
 #include "desktop/session.h"
+#include "platform/working_folder.h"
 
 namespace {
 
@@ -16,15 +18,14 @@ bool IsSet(const char* variable) {
   return value != nullptr && *value != '\0';
 }
 
-// $PELORIUM_HOME, else the folder of the executable.
-std::filesystem::path ApplicationPath() {
-  if (IsSet("PELORIUM_HOME")) return std::getenv("PELORIUM_HOME");
-  return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
-}
-
 }  // namespace
 
+// `pelorium --make-folders DIR` makes a working folder complete and ends: it needs no display.
 int main(int argc, char** argv) {
+  if (argc == 3 && std::string_view(argv[1]) == "--make-folders") {
+    pelorium::CompleteWorkingFolder(argv[2]);
+    return 0;
+  }
   if (!IsSet("DISPLAY") && !IsSet("WAYLAND_DISPLAY") && !IsSet("QT_QPA_PLATFORM")) {
     std::fputs(
         "pelorium: no display to show windows on (DISPLAY and WAYLAND_DISPLAY are empty); "
@@ -37,11 +38,12 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   QApplication::setApplicationName("pelorium");
-  QApplication::setApplicationDisplayName("Pelorium");
   QApplication::setQuitOnLastWindowClosed(false);
   pelorium::SetAppearance(application);
   try {
-    pelorium::Session session(pelorium::Journal::FromEnvironment(), ApplicationPath());
+    const std::filesystem::path folder = pelorium::WorkingFolder();
+    pelorium::CompleteWorkingFolder(folder);
+    pelorium::Session session(pelorium::Journal::FromEnvironment(), folder);
     session.face().Begin();
     if (session.app().exitRequested) return 0;
     return QApplication::exec();

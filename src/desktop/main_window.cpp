@@ -4,12 +4,14 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 #include <algorithm>
+#include <utility>
 
 #include "controls/user_event.h"
 #include "desktop/dispatcher.h"
@@ -36,7 +38,7 @@ QSize FrameAround(const QMdiSubWindow& sub) {
 }  // namespace
 
 MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher)
-    : frame_(frame), dispatcher_(dispatcher), area_(*new QMdiArea(this)) {
+    : frame_(frame), dispatcher_(dispatcher), notice_(*new QLabel(this)), area_(*new QMdiArea(this)) {
   setObjectName(ToQt(frame.name()));
   area_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -48,6 +50,10 @@ MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher)
     if (item.isTopLevel()) AddMenu(item, *menuBar());
   }
   statusBar()->setSizeGripEnabled(true);
+  notice_.setObjectName("notice");
+  notice_.setTextFormat(Qt::PlainText);
+  notice_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  statusBar()->addPermanentWidget(&notice_, 1);
   const QSize screen = QGuiApplication::primaryScreen()->availableSize();
   resize(kComfortableFrame.boundedTo(screen * 0.95));
   SyncFrame();
@@ -74,9 +80,21 @@ void MainWindow::SyncMenuItem(const Control& item) {
   const auto found = menu_.find(&item);
   if (found == menu_.end()) return;
   QAction& action = *found->second;
-  action.setText(CaptionToShow(item.caption()));
+  action.setText(ToQt(item.caption()));
   action.setEnabled(item.enabled());
   action.setVisible(item.visible());
+}
+
+void MainWindow::ShowNotice(const std::string& text, NoticeKind kind) {
+  if (isFaultShown_ && kind == NoticeKind::Result) return;  // the fault tells more
+  isFaultShown_ = kind == NoticeKind::Fault;
+  notice_.setStyleSheet(isFaultShown_ ? "color: #c00000" : "");
+  notice_.setText(ToQt(text));
+  notice_.setToolTip(ToQt(text));
+}
+
+void MainWindow::ForgetFault() {
+  if (std::exchange(isFaultShown_, false)) notice_.clear();
 }
 
 void MainWindow::SyncFrame() {
@@ -98,7 +116,7 @@ void MainWindow::Sync(WindowView& view) {
 void MainWindow::Show(WindowView& view) {
   const bool isNew = view.subWindow() == nullptr;
   QMdiSubWindow& sub = view.AsSubWindow(*area_.viewport());
-  sub.setWindowTitle(CaptionToShow(view.window().caption()));
+  sub.setWindowTitle(ToQt(view.window().caption()));
   if (isNew) {
     area_.addSubWindow(&sub, sub.windowFlags());
     PlaceFirst(view);

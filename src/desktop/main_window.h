@@ -8,8 +8,10 @@
 
 #include "controls/buttons.h"
 #include "controls/window.h"
+#include "windows/notices.h"
 
 class QAction;
+class QLabel;
 
 namespace pelorium {
 
@@ -25,6 +27,10 @@ class MainWindow : public QMainWindow {
   void SyncFrame();
   void SyncMenuItem(const Control& item);
 
+  // In the line below the windows; a fault in red, until the next event.
+  void ShowNotice(const std::string& text, NoticeKind kind);
+  void ForgetFault();
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -39,6 +45,8 @@ class MainWindow : public QMainWindow {
 
   Window& frame_;
   Dispatcher& dispatcher_;
+  QLabel& notice_;  // behind it the tool tip of what is under the mouse comes and goes
+  bool isFaultShown_ = false;
   QMdiArea& area_;
   std::unordered_map<const Control*, QAction*> menu_;
 

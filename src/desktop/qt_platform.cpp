@@ -59,8 +59,8 @@ std::string QtPlatform::AskFileName(const FileDialogRequest& request) {
 
 void QtPlatform::ShowMessage(const std::string& text) {
   runDialog([&] {
-    QMessageBox box(QMessageBox::Information, QApplication::applicationDisplayName(), ToQt(text),
-                    QMessageBox::Ok, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Pelorium"), ToQt(text), QMessageBox::Ok,
+                    QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.exec();
   });

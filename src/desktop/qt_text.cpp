@@ -7,13 +7,4 @@ QString ToQt(const std::string& text) { return QString::fromStdString(text); }
 
 std::string FromQt(const QString& text) { return text.toStdString(); }
 
-QString CaptionToShow(const std::string& caption) {
-  QString shown = ToQt(caption).trimmed();
-  while (shown.endsWith('|')) {
-    shown.chop(1);
-    shown = shown.trimmed();
-  }
-  return shown;
-}
-
 }  // namespace pelorium

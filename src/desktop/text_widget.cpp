@@ -1,6 +1,7 @@
 // A text box on the screen.
 #include "desktop/text_widget.h"
 
+#include <QFocusEvent>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -50,6 +51,14 @@ void TextWidget::OnTyped() {
   isPending_ = true;
   dispatcher_.AddPending(*this);
   pause_.start();
+}
+
+// A menu of the box itself takes the focus only for a moment.
+void TextWidget::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (event->reason() == Qt::PopupFocusReason) return;
+  DeliverTyped();
+  box_.FinishTyping();
 }
 
 void TextWidget::DeliverTyped() { dispatcher_.DeliverPending(*this); }

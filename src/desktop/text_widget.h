@@ -21,6 +21,9 @@ class TextWidget : public QLineEdit, public ControlView, private PendingInput {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
+ protected:
+  void focusOutEvent(QFocusEvent* event) override;
+
  private:
   UserEvent TakeEvent() override;
   void OnTyped();

@@ -29,8 +29,8 @@ void AppendQuad(ModelStore& model, int part, int near, int far, int rowWidth) {
 
 // A fan over the point `first` of row 0 and its like in all rows of the body.
 void AppendBodySide(ModelStore& model, const FreeFaceSettings& s, int first) {
-  const auto point = [&](int row) { return std::min(row, s.bodyRows - 1) * s.bodyWidth + first; };
-  for (int k = 1; k <= s.bodyRows; ++k) Append(model, s.part, first, point(k), point(k + 1));
+  const auto point = [&](int row) { return std::min(row, s.body.rows - 1) * s.body.width + first; };
+  for (int k = 1; k <= s.body.rows; ++k) Append(model, s.part, first, point(k), point(k + 1));
 }
 
 }  // namespace
@@ -44,16 +44,18 @@ void AppendEndCap(ModelStore& model, const FreeFaceSettings& s) {
 }
 
 void AppendBottomCap(ModelStore& model, const FreeFaceSettings& s) {
-  AppendFan(model, s.part, 1, s.bodySections - 1);
+  AppendFan(model, s.part, 1, s.capFaces);
 }
 
 void AppendTopCap(ModelStore& model, const FreeFaceSettings& s) {
-  AppendFan(model, s.part, std::max(0, s.bodyRows - 1) * s.bodyWidth + 1, s.bodySections - 1);
+  AppendFan(model, s.part, std::max(0, s.body.rows - 1) * s.body.width + 1, s.capFaces);
 }
 
 void AppendStartSideCap(ModelStore& model, const FreeFaceSettings& s) { AppendBodySide(model, s, 1); }
 
-void AppendEndSideCap(ModelStore& model, const FreeFaceSettings& s) { AppendBodySide(model, s, s.bodyWidth); }
+void AppendEndSideCap(ModelStore& model, const FreeFaceSettings& s) {
+  AppendBodySide(model, s, s.body.width);
+}
 
 void AppendSideCap(ModelStore& model, const FreeFaceSettings& s) {
   const auto point = [&](int layer) { return layer * s.pointsPerLayer + s.capSide; };

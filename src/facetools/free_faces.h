@@ -27,19 +27,19 @@ struct FreeFaceSettings {
   int stripWidth = 32;  // points of a row
   bool stripIsClosed = false;
 
-  // The body as a generator left it: sections, points of a row, rows of points.
-  int bodySections = 36, bodyWidth = 37, bodyRows = 0;
+  LaidGrid body = {37, 0};
+  int capFaces = 35;  // of a fan over a row of the body
 };
 
 // A fan of `faces` triangles: start, start + k, start + k + 1 for k from 1.
 void AppendFan(ModelStore& model, int part, int start, int faces);
 
 void AppendEndCap(ModelStore& model, const FreeFaceSettings& settings);
-// Fans over the first and the last row of the body: sections - 1 faces.
+// Fans over the first and the last row of the body: `capFaces` faces.
 void AppendBottomCap(ModelStore& model, const FreeFaceSettings& settings);
 void AppendTopCap(ModelStore& model, const FreeFaceSettings& settings);
-// Fans over the first and the last points of all rows. One face a row; the last two stay behind the last row
-// and are flat.
+// Fans over the first and the last points of all rows of the body. One face a row; the last two stay behind
+// the last row and are flat.
 void AppendStartSideCap(ModelStore& model, const FreeFaceSettings& settings);
 void AppendEndSideCap(ModelStore& model, const FreeFaceSettings& settings);
 // A fan from the side point of the first layer over those of the layers up to the last one.

@@ -80,7 +80,7 @@ class EglSurface : public GlSurface {
   void ReadBack(std::uint32_t* pixels, int width, int height) override;
 
  private:
-  bool ChooseConfig();
+  bool SetupPixelFormat();
   bool Grow(int width, int height);
   bool MakeCurrent() { return eglMakeCurrent(display_, buffer_, buffer_, context_) == EGL_TRUE; }
 
@@ -101,7 +101,7 @@ EglSurface::~EglSurface() {
 }
 
 bool EglSurface::Open() {
-  if (display_ == EGL_NO_DISPLAY || !eglBindAPI(EGL_OPENGL_API) || !ChooseConfig()) return false;
+  if (display_ == EGL_NO_DISPLAY || !eglBindAPI(EGL_OPENGL_API) || !SetupPixelFormat()) return false;
   context_ = eglCreateContext(display_, config_, EGL_NO_CONTEXT, nullptr);
   if (context_ == EGL_NO_CONTEXT) return false;
   maxWidth_ = kFirstWidth, maxHeight_ = kFirstHeight;
@@ -112,7 +112,7 @@ bool EglSurface::Open() {
   return true;
 }
 
-bool EglSurface::ChooseConfig() {
+bool EglSurface::SetupPixelFormat() {
   static constexpr std::array<EGLint, 13> kWanted = {EGL_SURFACE_TYPE,
                                                      EGL_PBUFFER_BIT,
                                                      EGL_RENDERABLE_TYPE,

@@ -116,9 +116,11 @@ void RasteriseLine(const PixelGrid& grid, Pixel from, Pixel to, int width, Colou
   const int start = walk.alongX ? from.x : from.y, limit = walk.alongX ? grid.width : grid.height;
   const bool forward = (walk.alongX ? walk.stepX : walk.stepY) > 0;
   const std::int64_t first = std::max<std::int64_t>(0, (forward ? -start : start - limit + 1) - width);
+  const bool setsEnd = width > 1;
   const std::int64_t last =
-      std::min<std::int64_t>(walk.length, (forward ? limit - start : start + 1) + width);
+      std::min<std::int64_t>(walk.length + (setsEnd ? 1 : 0), (forward ? limit - start : start + 1) + width);
   if (first >= last) return;
+  if (walk.length == 0) return RasteriseDot(grid, from, width, colour);
 
   const std::int64_t travelled = walk.length / 2 + first * walk.across;
   std::int64_t error = travelled % walk.length;

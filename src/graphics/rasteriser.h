@@ -24,8 +24,8 @@ struct PixelGrid {
   std::uint32_t* At(Pixel p) const { return pixels + static_cast<std::ptrdiff_t>(p.y) * width + p.x; }
 };
 
-// An integer DDA along the longer axis: the start is set, the end is not. A width above 1 sets a dot at each
-// step.
+// An integer DDA along the longer axis. Width 1: the start is set, the end is not. Wider: a dot at each step,
+// both ends included.
 void RasteriseLine(const PixelGrid& grid, Pixel from, Pixel to, int width, Colour colour);
 
 // A disc of diameter `width`. An odd width is centred on the pixel, an even one on its top left corner; a

@@ -66,6 +66,7 @@ void WriteTextPart(const ModelStore& model, int part, TextWriter& out) {
 void ReadTextPart(ModelStore& model, int part, std::string_view text) {
   ItemReader in(text);
   PartHeader& header = model.Part(part);
+  header.grid.reset();
   in.Line();
   header.PartName = in.Line();
   in.Line();

@@ -64,6 +64,7 @@ void ReadSeparateFaces(ModelStore& model, int part, std::string_view text) {
     rec.onoff = 1;
   }
   PartHeader& header = model.Part(part);
+  header.grid.reset();
   header.maxpoints = static_cast<std::int16_t>(3 * faces);
   header.maxfaces = static_cast<std::int16_t>(faces);
   header.minpoints = header.minfaces = 1;

@@ -9,7 +9,7 @@ namespace pelorium {
 
 namespace {
 
-void FetchSide(ModelStore& model, const RingGrid& rings, int side, int profile) {
+void GetSide(ModelStore& model, const RingGrid& rings, int side, int profile) {
   const int wanted = std::min(model.Part(rings.part).count + 1, kMaxLayer + 1);
   const int taken = ProfileFromPoints(model, profile, {rings.part, side, rings.rowLength, wanted});
   if (taken == 0) return;
@@ -22,19 +22,19 @@ void FetchSide(ModelStore& model, const RingGrid& rings, int side, int profile) 
 
 }  // namespace
 
-void FetchLayer(ModelStore& model, const RingGrid& rings, int layer, int profile) {
+void GetLayer(ModelStore& model, const RingGrid& rings, int layer, int profile) {
   ProfileFromPoints(model, profile, {rings.part, layer * rings.rowLength + 1, 1, rings.pointsPerRing});
 }
 
-void FetchLayers(ModelStore& model, const RingGrid& rings, int firstLayer, int lastLayer, int firstProfile) {
+void GetLayers(ModelStore& model, const RingGrid& rings, int firstLayer, int lastLayer, int firstProfile) {
   for (int layer = firstLayer, q = firstProfile; layer <= lastLayer && q <= kMaxProfile; ++layer, ++q) {
-    FetchLayer(model, rings, layer, q);
+    GetLayer(model, rings, layer, q);
   }
 }
 
-void FetchSides(ModelStore& model, const RingGrid& rings, int firstSide, int lastSide, int firstProfile) {
+void GetSides(ModelStore& model, const RingGrid& rings, int firstSide, int lastSide, int firstProfile) {
   for (int side = firstSide, q = firstProfile; side <= lastSide && q <= kMaxProfile; ++side, ++q) {
-    FetchSide(model, rings, side, q);
+    GetSide(model, rings, side, q);
   }
 }
 

@@ -13,14 +13,14 @@ struct RingGrid {
 };
 
 // Layer `layer` (from 0) becomes profile `profile`.
-void FetchLayer(ModelStore& model, const RingGrid& rings, int layer, int profile);
+void GetLayer(ModelStore& model, const RingGrid& rings, int layer, int profile);
 
 // Layers firstLayer..lastLayer become profiles from `firstProfile` on, up to profile 36.
-void FetchLayers(ModelStore& model, const RingGrid& rings, int firstLayer, int lastLayer, int firstProfile);
+void GetLayers(ModelStore& model, const RingGrid& rings, int firstLayer, int lastLayer, int firstProfile);
 
 // Sides firstSide..lastSide (from 1: the points of that number in each ring) become profiles from
 // `firstProfile` on, up to profile 36. Each has one point more than the Part's `count` says, at most 37;
 // where the Part has no further ring the last point repeats.
-void FetchSides(ModelStore& model, const RingGrid& rings, int firstSide, int lastSide, int firstProfile);
+void GetSides(ModelStore& model, const RingGrid& rings, int firstSide, int lastSide, int firstProfile);
 
 }  // namespace pelorium

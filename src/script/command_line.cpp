@@ -22,13 +22,6 @@ std::optional<CommandLine> ParseCommandLine(const std::vector<std::string>& word
   return line;
 }
 
-std::filesystem::path HomeFolder(const CommandLine& line, const char* environment,
-                                 const std::filesystem::path& executableFolder) {
-  if (line.home) return *line.home;
-  if (environment != nullptr && *environment != '\0') return environment;
-  return executableFolder;
-}
-
 int PlayAll(ScriptRunner& runner, const std::vector<std::string>& files, std::istream& standardInput,
             std::ostream& err) {
   if (files.empty()) runner.Play(standardInput, "stdin");

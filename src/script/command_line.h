@@ -24,11 +24,6 @@ struct CommandLine {
 // Nothing for an option that is unknown or lacks its word.
 std::optional<CommandLine> ParseCommandLine(const std::vector<std::string>& words);
 
-// The application path: the option's, else $PELORIUM_HOME (`environment`, which may be null or empty), else
-// the executable's folder.
-std::filesystem::path HomeFolder(const CommandLine& line, const char* environment,
-                                 const std::filesystem::path& executableFolder);
-
 // Plays the files in turn, or `standardInput`, and gives the exit status. A file that cannot be opened ends
 // the run with 2.
 int PlayAll(ScriptRunner& runner, const std::vector<std::string>& files, std::istream& standardInput,

@@ -53,6 +53,10 @@ void Faults(ScriptRunner& runner, const Words&) {
   for (const std::string& fault : runner.app().faults.TakeAll()) runner.out() << fault << '\n';
 }
 
+void PrintNotices(ScriptRunner& runner, const Words&) {
+  for (const std::string& notice : runner.app().notices.TakeAll()) runner.out() << Quoted(notice) << '\n';
+}
+
 // The commands that print the rows FIRST..LAST of a Part.
 template <std::string (*lines)(const ModelStore&, int, int, int)>
 void PrintRows(ScriptRunner& runner, const Words& words) {
@@ -118,6 +122,7 @@ constexpr Command kCommands[] = {
     {"messages", 0, 0, "", Messages},
     {"dialogs", 0, 0, "", Dialogs},
     {"faults", 0, 0, "", Faults},
+    {"notices", 0, 0, "", PrintNotices},
     {"points", 3, 3, "PART FIRST LAST", PrintRows<PointLines>},
     {"faces", 3, 3, "PART FIRST LAST", PrintRows<FaceLines>},
     {"corners", 3, 3, "PART FIRST LAST", PrintRows<CornerLines>},

@@ -68,8 +68,11 @@ std::optional<Place> FacePlace(ModelStore& model, const Subscripts& at, const st
 }
 
 std::optional<Place> ProfilePointPlace(ModelStore& model, const Subscripts& at, const std::string& field) {
-  if (auto place = FieldPlace(model.ProfilePts(at[0], at[1]), field)) return place;
-  return at[0] == 1 ? FieldPlace(model.Profile(at[1]), field) : std::nullopt;
+  ProfilePointRec& point = model.ProfilePts(at[0], at[1]);
+  if (at[0] == 1) {
+    if (auto place = FieldPlace(model.Profile(at[1]), field)) return place;
+  }
+  return FieldPlace(point, field);
 }
 
 std::optional<Place> WithoutField(Place place, const std::string& field) {

@@ -184,15 +184,17 @@ void Scene::DrawOtherEdges() {
   }
 }
 
-// The last segment ends in the pen's slot, which is no point of the profile.
+// The last segment ends in the pen's slot.
 void Scene::AddProfileLines(Drawing& lines, int profile) const {
   for (int layer = 0; layer < model_.Profile(profile).count; ++layer) {
     lines.Line(model_.ProfilePts(layer, profile), model_.ProfilePts(layer + 1, profile));
   }
 }
 
+// The pen's slot shows too, once something is drawn.
 void Scene::AddProfilePoints(Drawing& points, int profile) const {
-  for (int layer = 0; layer < model_.Profile(profile).count; ++layer) {
+  const int count = model_.Profile(profile).count;
+  for (int layer = 0; count > 0 && layer <= count; ++layer) {
     points.Vertex(model_.ProfilePts(layer, profile));
   }
 }

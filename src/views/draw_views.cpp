@@ -158,19 +158,59 @@ void DrawCurrentProfile(const ModelStore& model, const ViewSettings& settings, c
   picture.foreColour = kPlainColour;
 }
 
-void DrawParts(const ModelStore& model, const ViewSettings& settings, Picture& picture, Projection projection,
-               Pan pan) {
-  const Canvas canvas(picture, projection, pan);
-  picture.drawWidth = 1;
-  picture.foreColour = Rgb(100, 100, 100);
-  if (settings.showWire) DrawWire(model, canvas);
-  if (settings.showChosenFace) DrawChosenFace(model, settings, canvas);
-  if (settings.showAllPoints) DrawAllPoints(model, canvas);
-  if (settings.showChosenPoints) DrawChosenPoints(model, settings, canvas);
-  if (settings.showOtherProfiles) DrawOtherProfiles(model, settings, canvas);
-  if (settings.showProfile || settings.showOtherProfiles) {
-    DrawCurrentProfile(model, settings, canvas, kPlainColour);
+// Everything that a refresh draws with. Each routine ends alone at a fault, and the rest of the picture is
+// drawn.
+class Views {
+ public:
+  Views(const ModelStore& model, const ViewSettings& settings, Picture& picture, FaultLog& faults)
+      : model_(model), settings_(settings), picture_(picture), faults_(faults) {}
+
+  void DrawGrid();
+  void DrawProfileView();
+  void DrawTopView() { DrawSingleView(Projection::Top); }
+  void DrawFrontView() { DrawSingleView(Projection::Front); }
+  void DrawSideView() { DrawSingleView(Projection::Side); }
+  void Draw3DView() { DrawSingleView(Projection::Oblique); }
+  void DrawTriView();
+
+ private:
+  template <typename Draw>
+  void Try(const char* what, Draw draw) {
+    Trapped(faults_, what, draw);
   }
+  Canvas CanvasOf(Projection projection) const {
+    return Canvas(picture_, projection, {settings_.panX, settings_.panY});
+  }
+  void DrawParts(const Canvas& canvas);
+  void DrawSingleView(Projection projection);
+  void DrawOrigin(Projection projection);
+  void DrawProfiles(const Canvas& canvas, bool others, bool current, Colour lineColour);
+
+  const ModelStore& model_;
+  const ViewSettings& settings_;
+  Picture& picture_;
+  FaultLog& faults_;
+};
+
+void Views::DrawGrid() {
+  Try("DrawGrid", [this] { pelorium::DrawGrid(settings_, picture_); });
+}
+
+void Views::DrawProfiles(const Canvas& canvas, bool others, bool current, Colour lineColour) {
+  if (others) Try("DrawProfiles", [&] { DrawOtherProfiles(model_, settings_, canvas); });
+  if (current) Try("DrawProfile", [&] { DrawCurrentProfile(model_, settings_, canvas, lineColour); });
+}
+
+void Views::DrawParts(const Canvas& canvas) {
+  picture_.drawWidth = 1;
+  picture_.foreColour = Rgb(100, 100, 100);
+  if (settings_.showWire) Try("DrawWire", [&] { DrawWire(model_, canvas); });
+  if (settings_.showChosenFace) Try("DrawChosenFace", [&] { DrawChosenFace(model_, settings_, canvas); });
+  if (settings_.showAllPoints) Try("DrawAllPoints", [&] { DrawAllPoints(model_, canvas); });
+  if (settings_.showChosenPoints)
+    Try("DrawChosenPoints", [&] { DrawChosenPoints(model_, settings_, canvas); });
+  DrawProfiles(canvas, settings_.showOtherProfiles, settings_.showProfile || settings_.showOtherProfiles,
+               kPlainColour);
 }
 
 void DrawOriginCross(const ViewSettings& settings, Picture& picture, Projection projection) {
@@ -193,35 +233,36 @@ void DrawAxes(const ViewSettings& settings, Picture& picture) {
   picture.Line(0, y, static_cast<float>(picture.ScaleWidth()), y);
 }
 
-void DrawProfileView(const ModelStore& model, const ViewSettings& settings, Picture& picture) {
-  const Canvas canvas(picture, settings.profileProjection, {settings.panX, settings.panY});
-  picture.drawWidth = 1;
-  if (settings.showPartsInProfileView) DrawWire(model, canvas);
-  DrawOtherProfiles(model, settings, canvas);
-  DrawCurrentProfile(model, settings, canvas, Rgb(220, 220, 220));
-  DrawAxes(settings, picture);
-  picture.foreColour = kOriginColour;
-  if (settings.showOrigin) DrawOriginCross(settings, picture, settings.profileProjection);
-  picture.foreColour = Rgb(250, 0, 0);  // the pen of the line that leads to the next point
+void Views::DrawOrigin(Projection projection) {
+  picture_.foreColour = kOriginColour;
+  picture_.drawWidth = 1;
+  if (settings_.showOrigin) Try("DrawOrigin", [&] { DrawOriginCross(settings_, picture_, projection); });
+}
+
+void Views::DrawProfileView() {
+  const Canvas canvas = CanvasOf(settings_.profileProjection);
+  picture_.drawWidth = 1;
+  if (settings_.showPartsInProfileView) Try("DrawWire", [&] { DrawWire(model_, canvas); });
+  DrawProfiles(canvas, true, true, Rgb(220, 220, 220));
+  Try("DrawAxes", [this] { DrawAxes(settings_, picture_); });
+  DrawOrigin(settings_.profileProjection);
+  picture_.foreColour = Rgb(250, 0, 0);  // the pen of the line that leads to the next point
 }
 
 // One of the views that show the Parts alone, with the origin and, but for the oblique one, the axes.
-void DrawSingleView(const ModelStore& model, const ViewSettings& settings, Picture& picture,
-                    Projection projection) {
-  DrawParts(model, settings, picture, projection, {settings.panX, settings.panY});
-  picture.foreColour = kOriginColour;
-  picture.drawWidth = 1;
-  if (settings.showOrigin) DrawOriginCross(settings, picture, projection);
-  if (projection != Projection::Oblique) DrawAxes(settings, picture);
-  picture.foreColour = kBrightColour;
+void Views::DrawSingleView(Projection projection) {
+  DrawParts(CanvasOf(projection));
+  DrawOrigin(projection);
+  if (projection != Projection::Oblique) Try("DrawAxes", [this] { DrawAxes(settings_, picture_); });
+  picture_.foreColour = kBrightColour;
 }
 
 // Top at its place, Front above it, Side to the right of it.
-void DrawTriView(const ModelStore& model, const ViewSettings& settings, Picture& picture) {
-  const double x = settings.panX, y = settings.panY, apart = settings.triSeparation;
-  DrawParts(model, settings, picture, Projection::Top, {x, y});
-  DrawParts(model, settings, picture, Projection::Front, {x, y + apart});
-  DrawParts(model, settings, picture, Projection::Side, {x + apart, y});
+void Views::DrawTriView() {
+  const double x = settings_.panX, y = settings_.panY, apart = settings_.triSeparation;
+  DrawParts(Canvas(picture_, Projection::Top, {x, y}));
+  DrawParts(Canvas(picture_, Projection::Front, {x, y + apart}));
+  DrawParts(Canvas(picture_, Projection::Side, {x + apart, y}));
 }
 
 }  // namespace
@@ -258,24 +299,25 @@ std::string_view ViewCaption(const ViewSettings& settings) {
   return "";
 }
 
-void DrawViews(const ModelStore& model, const ViewSettings& settings, Picture& picture) {
-  DrawGrid(settings, picture);
+void DrawViews(const ModelStore& model, const ViewSettings& settings, Picture& picture, FaultLog& faults) {
+  Views views(model, settings, picture, faults);
+  views.DrawGrid();
   switch (settings.mode) {
     case ViewMode::None:
       return;
     case ViewMode::Profile:
-      return DrawProfileView(model, settings, picture);
+      return views.DrawProfileView();
     case ViewMode::Top:
     case ViewMode::Tesselate:
-      return DrawSingleView(model, settings, picture, Projection::Top);
+      return views.DrawTopView();
     case ViewMode::Front:
-      return DrawSingleView(model, settings, picture, Projection::Front);
+      return views.DrawFrontView();
     case ViewMode::Side:
-      return DrawSingleView(model, settings, picture, Projection::Side);
+      return views.DrawSideView();
     case ViewMode::View3D:
-      return DrawSingleView(model, settings, picture, Projection::Oblique);
+      return views.Draw3DView();
     case ViewMode::Tri:
-      return DrawTriView(model, settings, picture);
+      return views.DrawTriView();
   }
 }
 

@@ -115,22 +115,37 @@ App::App(Platform& platformToUse, const std::filesystem::path& path)
       form14(Add<Form14>()),
       helpme(Add<HelpMe>()),
       frmAbout(Add<FrmAbout>()),
-      form36(Add<Form36>()) {}
+      form36(Add<Form36>()) {
+  faults.onNote = [this](const std::string& line) { notices.Give(line, NoticeKind::Fault); };
+}
 
 App::~App() = default;
 
 void App::Start() { mdiForm1.Load(); }
 
+// A typed number that its bar cannot take gives way to the one that it takes.
+void App::FinishTypingElsewhere(const Control* control) {
+  if (typedBox_ == nullptr || typedBox_ == control) return;
+  std::exchange(typedBox_, nullptr)->FinishTyping();
+}
+
+void App::ReloadFileLists() {
+  for (const auto& window : windows_) window->ReloadFileLists();
+}
+
 bool App::Deliver(const UserEvent& event) {
   Window* window = FindWindow(event.window);
   if (window == nullptr) return false;
   if (event.action == UserAction::CloseWindow) {
+    FinishTypingElsewhere(nullptr);
     if (onEvent) onEvent(event);
     Trapped(faults, window->name(), [window] { window->Close(); });
     return true;
   }
   Control* control = window->Find(event.control);
   if (control == nullptr || !control->enabled()) return false;
+  FinishTypingElsewhere(control);
+  if (event.action == UserAction::Type) typedBox_ = dynamic_cast<TextBox*>(control);
   if (onEvent) onEvent(event);
   bool applied = true;  // also when a fault ended the handler
   Trapped(faults, control->FullName(), [&] { applied = DeliverTo(*control, event); });

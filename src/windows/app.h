@@ -15,6 +15,7 @@
 #include "graphics/gl_surface.h"
 #include "platform/platform.h"
 #include "views/shaded_settings.h"
+#include "windows/notices.h"
 
 namespace pelorium {
 
@@ -38,6 +39,7 @@ class RevolveProf;
 class ShadedView;
 class SpecialEffects1;
 class SpecialEffects5;
+class TextBox;
 
 class App {
  public:
@@ -61,6 +63,7 @@ class App {
   Platform& platform;
   const std::filesystem::path applicationPath;
   FaultLog faults;
+  Notices notices;  // hears of every fault
   ControlHost host;
   RandomSeries random;
   ModelStore model;
@@ -80,8 +83,13 @@ class App {
   // Every event as it is delivered, and every file dialog's answer: for a journal.
   std::function<void(const UserEvent&)> onEvent;
 
+  // Every list of files shows what is there now.
+  void ReloadFileLists();
+
   // Windows by the system's names. Declared in the order of their building.
  private:
+  void FinishTypingElsewhere(const Control* control);
+  TextBox* typedBox_ = nullptr;  // the last one that a person typed into
   template <typename WindowType>
   WindowType& Add();
   std::vector<std::unique_ptr<Window>> windows_;

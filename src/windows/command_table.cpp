@@ -247,7 +247,7 @@ const std::vector<CommandButton>& CommandButtons() {
       {"Command23", "Front View", "frontview"},
       {"Command24", "Side View", "sideview"},
       {"Command25", "3D View", "dddviewit"},
-      {"Command16", "Shaded ", "rev1"},
+      {"Command33", "Shaded ", "rev1"},
   };
   return kButtons;
 }

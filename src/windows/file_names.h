@@ -1,9 +1,13 @@
-// Asking for file names, and lists of files and folders that fill name boxes.
+// Asking for file names, the files that names in boxes stand for, and lists of files and folders that fill
+// those boxes.
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <string_view>
 
+#include "base/files.h"
 #include "controls/lists.h"
 #include "controls/text_box.h"
 #include "platform/platform.h"
@@ -12,9 +16,28 @@ namespace pelorium {
 
 class App;
 
-// Runs the dialog, which starts in `request.folder` under the application path; a save makes that folder. A
-// name without an ending gets the request's default extension. Empty when the dialog was cancelled.
+// Runs the dialog, which starts in `request.folder` under the application path. A name without an ending gets
+// the request's default extension. Empty when the dialog was cancelled.
 std::filesystem::path AskFileName(App& app, FileDialogRequest request);
+
+// The file that a name stands for, typed or chosen: a relative one lies under the application path.
+std::filesystem::path FileNamed(const App& app, const std::filesystem::path& name);
+
+// Writing a file and telling of it: the lists of files follow, and the notice says "`what` name, 143 KB".
+// SaveFile puts the new file in place of the old one when it is complete; ExportFile writes in place.
+void SaveFile(App& app, const std::filesystem::path& name, const FileWriter& write,
+              const std::string& what = "saved");
+void ExportFile(App& app, const std::filesystem::path& name, const FileWriter& write,
+                const std::string& what = "exported");
+
+// Reading a file and telling of it: the notice says what `read` made of its bytes, as "opened 2 Parts, 408
+// points". A fault within goes on to the caller's trap, and the notice then says that the file was opened in
+// part.
+void OpenFile(App& app, const std::filesystem::path& name,
+              const std::function<std::string(std::string_view bytes)>& read);
+
+// "2 Parts, 408 points": the user's Parts that hold points.
+std::string CountsOfParts(const App& app);
 
 // Choosing a folder fills the list of files; choosing a file puts its path into the box.
 void BrowseInto(DirList& folders, FileList& files, TextBox& box);

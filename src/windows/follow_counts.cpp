@@ -37,7 +37,7 @@ void FollowFaces(App& app) {
   app.form51.HScroll5.SetValue(faces);
   app.editbyface.FollowCounts(part.maxpoints, faces);
   app.specialeffects5.FollowFaceRange();
-  app.freeface.Text16.SetText(std::to_string(part.maxfaces));
+  app.freeface.ShowFaces();
 }
 
 void FollowPoints(App& app) {
@@ -52,6 +52,7 @@ void FollowCounts(App& app) {
   FollowFaces(app);
   app.form51.HScroll7.SetValue(1);
   FollowPoints(app);
+  app.form5.HScroll20.SetValue(1);
   app.form51.Label3.SetCaption(CountCaption(app.model, CurrentPart(app)));
 }
 
@@ -69,7 +70,6 @@ void FollowSectionsWidely(App& app) {
 
 void FollowGenerated(App& app) {
   FollowCounts(app);
-  app.form5.HScroll20.SetValue(1);
   FollowSectionsWidely(app);
 }
 

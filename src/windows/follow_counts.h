@@ -5,9 +5,9 @@ namespace pelorium {
 
 class App;
 
-// After a load or a change of Part: the face and point ranges open to the current Part's counts, choices that
-// lie outside go back to the first. Automatic actions are held back meanwhile: they would overwrite what was
-// just read.
+// After a load or a change of Part: the face and point ranges open to the current Part's counts, from the
+// first on, choices that lie outside go back to the first. Automatic actions are held back meanwhile: they
+// would overwrite what was just read.
 void FollowCounts(App& app);
 
 // The face half of it: the choices of faces end at the last one, their start stays.
@@ -21,7 +21,7 @@ void FollowSections(App& app);
 // The same, and the bar opens to the widest ring first.
 void FollowSectionsWidely(App& app);
 
-// After a generator: the counts, with the chosen points from the first one on, and the sections.
+// After a generator: the counts and the sections.
 void FollowGenerated(App& app);
 
 }  // namespace pelorium

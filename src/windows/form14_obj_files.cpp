@@ -45,7 +45,7 @@ void Form14::Command26_Click() {
     if (name.empty()) return;
     Text13.SetText(name.string());
     const std::string materialFile = name.string() + kMaterialFileEnding;
-    WriteFile(materialFile, [this](TextWriter& out) {
+    WriteFile(FileNamed(app_, materialFile), [this](TextWriter& out) {
       WriteMaterialFile(app_.model, Option2.value() ? ".psd" : ".bmp", out);
     });
     ObjExportSettings settings;
@@ -54,7 +54,7 @@ void Form14::Command26_Click() {
     settings.groupPerFace = Check1.value();
     settings.textureCoordinates = Check5.value();
     settings.scaledDown = Check12.value();
-    WriteFile(Text13.text(), [&](TextWriter& out) { WriteObj(app_.model, settings, out); });
+    ExportFile(app_, name, [&](TextWriter& out) { WriteObj(app_.model, settings, out); });
   });
 }
 

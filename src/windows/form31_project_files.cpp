@@ -67,7 +67,7 @@ void Form31::Command14_Click() {
     const auto name = AskFileName(app_, ProjectDialog(true, "Save project (.prj file)"));
     if (name.empty()) return;
     Text1.SetText(name.string());
-    ReplaceFile(name, [this](TextWriter& out) { WriteProject(app_.model, out); });
+    SaveFile(app_, name, [this](TextWriter& out) { WriteProject(app_.model, out); });
     RefreshViews(app_);
   });
 }
@@ -76,7 +76,10 @@ void Form31::Command15_Click() {
   Trapped(app_.faults, "Form31.Command15", [this] {
     const auto name = AskFileName(app_, ProjectDialog(false, "Open Project (.prj file)"));
     if (name.empty()) return;
-    ReadProject(app_.model, ReadFile(name));
+    OpenFile(app_, name, [this](std::string_view text) {
+      ReadProject(app_.model, text);
+      return CountsOfParts(app_);
+    });
     FollowCounts(app_);
     FollowSections(app_);
     app_.form51.ShowProfile();
@@ -86,7 +89,7 @@ void Form31::Command15_Click() {
 
 void Form31::ExportInfo(const char* title, const FileWriter& write) {
   const auto name = AskFileName(app_, {true, title, "objinfo", "All Files (*.txt)|*.txt", "*.txt"});
-  if (!name.empty()) WriteFile(name, write);
+  if (!name.empty()) ExportFile(app_, name, write);
 }
 
 void Form31::Command12_Click() {
@@ -112,27 +115,32 @@ void Form31::ShowEstimatedArea() {
 
 void Form31::Command5_Click() {
   Trapped(app_.faults, "Form31.Command5", [this] {
-    WriteFile(Text1.text(), [this](TextWriter& out) { WriteProfilePositions(app_.model, out); });
+    ExportFile(app_, Text1.text(), [this](TextWriter& out) { WriteProfilePositions(app_.model, out); });
   });
 }
 
 void Form31::OpenPositions(const PushButton& button, const TextBox& name) {
-  Trapped(app_.faults, button.FullName(), [&] { ReadProfilePositions(app_.model, ReadFile(name.text())); });
-  app_.formulas.ShowProfile();
-  RefreshViews(app_);
+  Trapped(app_.faults, button.FullName(), [&] {
+    OpenFile(app_, name.text(), [this](std::string_view text) {
+      ReadProfilePositions(app_.model, text);
+      return std::string("profile points");
+    });
+    app_.formulas.ShowProfile();
+    RefreshViews(app_);
+  });
 }
 
 void Form31::Command8_Click() {
   Trapped(app_.faults, "Form31.Command8", [this] {
-    WriteFile(Text1.text(),
-              [this](TextWriter& out) { WriteSeparateFaces(app_.model, CurrentPart(app_), out); });
+    ExportFile(app_, Text1.text(),
+               [this](TextWriter& out) { WriteSeparateFaces(app_.model, CurrentPart(app_), out); });
   });
 }
 
 void Form31::Command1_Click() {
   if (!Check1.value() && !Check2.value()) return;
   Trapped(app_.faults, "Form31.Command1", [this] {
-    WriteFile(Text1.text(), [this](TextWriter& out) {
+    ExportFile(app_, Text1.text(), [this](TextWriter& out) {
       if (Check1.value()) WriteTextPart(app_.model, CurrentPart(app_), out);
       if (Check2.value()) WriteSeparateFaces(app_.model, CurrentPart(app_), out);
     });
@@ -141,7 +149,10 @@ void Form31::Command1_Click() {
 
 void Form31::ImportPart(const char* where, void (*read)(ModelStore&, int, std::string_view)) {
   Trapped(app_.faults, where, [this, read] {
-    read(app_.model, CurrentPart(app_), ReadFile(Text2.text()));
+    OpenFile(app_, Text2.text(), [this, read](std::string_view text) {
+      read(app_.model, CurrentPart(app_), text);
+      return CountsOfParts(app_);
+    });
     FollowCounts(app_);
     SyncFaceCorners(app_);
     RefreshViews(app_);

@@ -10,6 +10,7 @@
 #include "windows/command_table.h"
 #include "windows/form51_view_options.h"
 #include "windows/refresh_views.h"
+#include "windows/shaded_view.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {
@@ -54,6 +55,8 @@ Form36::Form36(App& app) : Window(app.host, "Form36", "View and edit window"), m
   Picture2.picture.Clear();
   for (ScrollBar* pan : {&HScroll1, &VScroll1}) pan->onChange = [this] { RefreshViews(app_); };
   Command12.onClick = [this](const Click& click) { ZoomByButton(click); };
+  Command16.onClick = [this](const Click&) { app_.shadedView->DrawShaded(); };
+  for (Control* hidden : std::initializer_list<Control*>{&Command16, &HScroll3}) hidden->SetVisible(false);
   Home.onClick = [this](const Click&) { ResetView(); };
   for (auto [pan, box] : {std::pair{&HScroll2, &Text1}, {&VScroll2, &Text2}}) {
     Pair(*pan, *box);
@@ -79,9 +82,8 @@ void Form36::MakePoseButtons() {
 LayoutItem Form36::DeclareLayout() {
   std::vector<Control*> row;
   for (const auto& button : commandRow) row.push_back(button.get());
-  std::vector<LayoutItem> totals = {Labelled("totalpoints", Label39),
-                                    Labelled("total tri faces, Part 0", Label47),
-                                    Labelled("Part 1", Label49)};
+  std::vector<LayoutItem> totals = {Labelled("totalpoints", Label39), Labelled("total tri faces", Label47),
+                                    Labelled("total tri faces", Label49)};
   for (std::size_t i = 0; i < poseButtons.size(); ++i) {
     if (i == 0) totals.push_back(Single(turnLabel));
     if (i == poseButtons.size() / 2) totals.push_back(Single(moveLabel));

@@ -59,8 +59,8 @@ class Form36 : public Window {
   Label Label5{*this, "Label5", "0", "place of the mouse, up"};
   Label Label13{*this, "Label13", "0", "length of the line from the last profile point to the mouse"};
   Label Label39{*this, "Label39", "0", "points of the current Part"};
-  Label Label47{*this, "Label47", "0", "faces of Part 0"};
-  Label Label49{*this, "Label49", "0", "faces of Part 1"};
+  Label Label47{*this, "Label47", "0", "total tri faces of Part 0"};
+  Label Label49{*this, "Label49", "0", "total tri faces of Part 1"};
   Label Label53{*this, "Label53", "",
                 "red, green, blue and grey level of the background under the last click"};
 
@@ -70,6 +70,9 @@ class Form36 : public Window {
   TextBox Text1{*this, "Text1", "0"};
   ScrollBar VScroll2{*this, "VScroll2", {-1000, 1000, 0, 1, 50}, "Y", "moves the background image down"};
   TextBox Text2{*this, "Text2", "0"};
+
+  // A second bar across; nothing moves with it.
+  ScrollBar HScroll3{*this, "HScroll3", {-1000, 1000, 0, 1, 50}, "background X 2"};
 
   OptionButton Option7{*this, "Option7", "&Move |", "mode", false, "moves the chosen points", kDisarms};
   OptionButton Option8{
@@ -81,6 +84,9 @@ class Form36 : public Window {
   OptionButton Option11{*this, "Option11", "&Move Origin", "mode", false, "moves the origin", kDisarms};
   OptionButton Option1{*this, "Option1", "M&ove Point |", "mode", false, "set to none on the left", kDisarms};
   PushButton Command12{*this, "Command12", "ZM", "left button zooms in, right button zooms out"};
+
+  // Draws the shaded picture; RefreshViews presses it while the shaded view is chosen.
+  PushButton Command16{*this, "Command16", "DrawShaded"};
 
   PushButton Home{*this, "Home", "Home", "back to one unit a pixel, with the origin in sight"};
 

@@ -35,10 +35,10 @@ Form51::Form51(App& app) : Window(app.host, "Form51", "View Options"), app_(app)
   Pair(HScroll4, Text3);
   Pair(HScroll3, Text2);
   Pair(HScroll8, Text6);
+  Pair(HScroll2, Text1);
   HScroll4.onChange = [this] { HScroll4_Change(); };
   HScroll3.onChange = [this] { HScroll3_Change(); };
   HScroll6.onChange = [this] { HScroll6_Change(); };
-  HScroll2.onChange = [this] { HScroll2_Change(); };
   HScroll1.onChange = HScroll13.onChange = [this] { Zoom_Change(); };
   for (auto [bar, label] : {std::pair{&HScroll7, &Label12}, {&HScroll5, &Label10}}) {
     bar->onChange = [this, bar, label] {
@@ -63,11 +63,18 @@ Form51::Form51(App& app) : Window(app.host, "Form51", "View Options"), app_(app)
 void Form51::BindViews() {
   for (ScrollBar* bar : {&HScroll8, &HScroll9}) bar->onChange = [this] { RefreshViews(app_); };
   for (Control* control : std::initializer_list<Control*>{
-           &Option1,  &Option2, &Option3, &Option4, &Option5, &Option6, &Option16,
-           &Option11, &Check1,  &Check3,  &Check7,  &Check9,  &Check10, &Check12,
-           &Check13,  &Check14, &Check15, &Check16, &Check17, &Check21, &Check30}) {
+           &Option2, &Option3, &Option4, &Option5, &Option6, &Option16, &Option11, &Check1, &Check3, &Check9,
+           &Check10, &Check12, &Check13, &Check14, &Check15, &Check16, &Check17, &Check21, &Check30}) {
     control->onClick = [this](const Click&) { RefreshViews(app_); };
   }
+  Option1.onClick = [this](const Click&) {
+    app_.formulas.ShowSubView();
+    RefreshViews(app_);
+  };
+  Check7.onClick = [this](const Click&) {
+    app_.specialeffects5.Check1.SetValue(Check7.value());
+    RefreshViews(app_);
+  };
 }
 
 // The preview shows Y upward, as the view does.
@@ -84,7 +91,7 @@ LayoutItem Form51::DeclareLayout() {
             {BarRow(HScroll4, {&Text3}), BarRow(HScroll3, {&Text2}), BarRow(HScroll6, {&Label17}),
              BarRow(HScroll2, {&Text1}), Flow({&Command17})}),
       Frame("View", {Flow({&Option1, &Option4, &Option2, &Option5, &Option6, &Option16, &Option3, &Option11,
-                           &Command2})}),
+                           &Option7, &Command2})}),
       Frame("Shaded", {Row({Single(Picture3),
                             Column({Single(LeftDragHint), Single(RightDragHint), Single(ShiftDragHint)})})}),
       Frame("Show", {Flow({&Check1, &Check30, &Check7, &Check10, &Check9, &Check3, &Check14, &Check16,
@@ -107,15 +114,23 @@ void Form51::Load() {
   HScroll4.SetMax(kUserParts - 1);
 }
 
-void Form51::ShowProfileCount() {
+void Form51::ShowCount() {
   const int count = app_.model.Profile(CurrentProfile(app_)).count;
   Label17.SetCaption(std::to_string(count));
   HScroll6.SetValueWidening(count);
-  app_.formulas.ShowPoint(count);
+}
+
+void Form51::ShowProfileCount() {
+  ShowCount();
+  app_.formulas.ShowPoint(app_.model.Profile(CurrentProfile(app_)).count);
 }
 
 void Form51::ShowProfile() {
   ShowProfileCount();
+  ShowProfileSettings();
+}
+
+void Form51::ShowProfileSettings() {
   app_.formulas.ShowProfile();
   app_.formulas2frm.ShowProfile();
   app_.formulas3frm.ShowProfile();
@@ -127,7 +142,6 @@ void Form51::HScroll4_Change() {
   Trapped(app_.faults, "Form51.HScroll4", [this] {
     const HoldAutomaticActions hold(app_);
     FollowCounts(app_);
-    app_.form5.HScroll20.SetValue(1);
     FollowSections(app_);
     app_.form5.HScroll11.SetValue(HScroll4.value());
     app_.specialeffects5.ShowPart(HScroll4.value());
@@ -137,8 +151,10 @@ void Form51::HScroll4_Change() {
   RefreshViews(app_);
 }
 
+// The point that Edit Profile has chosen stays: it shows where that point is in the profile.
 void Form51::HScroll3_Change() {
-  ShowProfile();
+  ShowCount();
+  ShowProfileSettings();
   RefreshViews(app_);
 }
 
@@ -148,8 +164,6 @@ void Form51::HScroll6_Change() {
   Label17.SetCaption(std::to_string(HScroll6.value()));
   RefreshViews(app_);
 }
-
-void Form51::HScroll2_Change() { Text1.SetText(std::to_string(HScroll2.value())); }
 
 void Form51::Zoom_Change() {
   constexpr double kZoomUnits = 10000;
@@ -170,7 +184,8 @@ void Form51::Option7_Click() {
 
 void Form51::Picture3_MouseDown(const MouseEvent& event) {
   app_.shadedView->InitShadedContext();
-  lastPreviewEvent_ = event;
+  previewX_ = ToPosition(event.x);
+  previewY_ = ToPosition(event.y);
   isPreviewDragged_ = true;
   app_.shadedView->DrawPreview();
 }
@@ -178,8 +193,9 @@ void Form51::Picture3_MouseDown(const MouseEvent& event) {
 void Form51::Picture3_MouseMove(const MouseEvent& event) {
   if (!isPreviewDragged_) return;
   ShadedView& shaded = *app_.shadedView;
-  shaded.DragPose(event, double{event.x} - lastPreviewEvent_.x, double{event.y} - lastPreviewEvent_.y);
-  lastPreviewEvent_ = event;
+  shaded.DragPose(event, double{event.x} - previewX_, double{event.y} - previewY_);
+  previewX_ = ToPosition(event.x);
+  previewY_ = ToPosition(event.y);
   Option11.value() ? RefreshViews(app_) : shaded.DrawPreview();
 }
 

@@ -86,7 +86,7 @@ class Form51 : public Window {
   ScrollBar HScroll9{
       *this, "HScroll9", {-2000, 2000, 200, 1, 50}, "tri view sep", "units between the three views"};
   ScrollBar HScroll13{*this, "HScroll13", {1, 1000, 7, 1, 10}, "Zoom", "scale of the shaded view"};
-  ScrollBar HScroll1{*this, "HScroll1", {64, 4096, 637, 1, 50}, "Zoom size", "pixels of the shaded view"};
+  ScrollBar HScroll1{*this, "HScroll1", {64, 4096, 637, 1, 50}, "Zoom", "pixels of the shaded view"};
   Label Label33{*this, "Label33", ".0007"};
   PushButton Command26{*this, "Command26", "IN/OUT", "left button zooms in, right button zooms out"};
   PushButton Command1{*this, "Command1", "refresh"};
@@ -103,10 +103,11 @@ class Form51 : public Window {
   Label Label21{*this, "Label21", ""};
 
  private:
+  void ShowCount();
+  void ShowProfileSettings();
   void HScroll4_Change();
   void HScroll3_Change();
   void HScroll6_Change();
-  void HScroll2_Change();
   void Zoom_Change();
   void Command2_Click();
   void Option7_Click();
@@ -119,7 +120,7 @@ class Form51 : public Window {
   LayoutItem DeclareLayout();
 
   App& app_;
-  MouseEvent lastPreviewEvent_;
+  std::int16_t previewX_ = 0, previewY_ = 0;  // of the last event of a drag
   bool isPreviewDragged_ = false;
 };
 

@@ -44,6 +44,7 @@ void Form55::BindFields() {
   for (std::size_t row = 0; row < fields_.size(); ++row) {
     fields_[row]->bar.onChange = [this, row] {
       WriteField(row);
+      ShowFieldsLike(row);
       AutoExtrude();
     };
   }
@@ -65,7 +66,14 @@ void Form55::BindPickers() {
   Pair(HScroll24, Text29);
   Pair(HScroll16, Text22);
   Pair(HScroll6, Text14);
-  for (ScrollBar* selector : {&HScroll16, &HScroll6}) selector->onChange = [this] { ShowFields(); };
+  HScroll16.onChange = [this] {
+    HScroll4.SetValue(HScroll16.value());
+    ShowFields();
+  };
+  HScroll6.onChange = [this] { ShowFields(); };
+  HScroll4.onChange = [this] { HScroll16.SetValue(HScroll4.value()); };
+  HScroll36.onChange = [this] { HScroll35.SetValue(HScroll36.value()); };
+  for (ScrollBar* hidden : {&HScroll36, &HScroll4}) hidden->SetVisible(false);
   HScroll35.onChange = [this] { app_.form51.HScroll3.SetValue(HScroll35.value()); };
   HScroll2.onChange = [this] { app_.form51.HScroll4.SetValue(HScroll2.value()); };
 }
@@ -107,6 +115,7 @@ double Form55::ReadField(std::size_t row) const {
 void Form55::ShowProfile() {
   const ProfileHeader& header = app_.model.Profile(CurrentProfile(app_));
   HScroll35.SetValue(CurrentProfile(app_));
+  HScroll36.SetValue(CurrentProfile(app_));
   HScroll24.Show(header.layerCount);
   ShowFields();
   showing_ = true;
@@ -117,6 +126,20 @@ void Form55::ShowProfile() {
 
 void Form55::ShowFields() {
   for (std::size_t row = 0; row < fields_.size(); ++row) fields_[row]->bar.Show(ReadField(row));
+}
+
+void Form55::ShowGeneralFields() {
+  for (std::size_t row = 0; row < fields_.size(); ++row) {
+    if (ExtrudeFields()[row].frame == kPositionFrame) fields_[row]->bar.Show(ReadField(row));
+  }
+}
+
+// Two bars may stand for one setting.
+void Form55::ShowFieldsLike(std::size_t row) {
+  for (std::size_t other = 0; other < fields_.size(); ++other) {
+    const bool isLike = other != row && ExtrudeFields()[other].field == ExtrudeFields()[row].field;
+    if (isLike) fields_[other]->bar.Show(ReadField(other));
+  }
 }
 
 void Form55::ShowPart() { HScroll2.SetValue(CurrentPart(app_)); }
@@ -164,10 +187,11 @@ ExtrudeSettings Form55::PrepareHeaders() {
   RevolveProf& grid = app_.revolveprof;
   grid.HScroll22.SetMax(std::max(grid.HScroll22.max(), kMostLayers));
   grid.HScroll22.SetValue(HScroll24.value());
+  grid.HScroll22.movedByPerson = false;
   grid.HScroll10.SetValue(profile.count - 1);
   profile.sectionCount = Narrow<std::int16_t>(grid.HScroll10.value());
 
-  settings.firstSection = ToInteger<int>(grid.Text7.Number());
+  settings.firstSection = grid.FirstSection();
   settings.lastSection = profile.sectionCount;
   settings.additive = Check5.value();
   settings.origin = Origin(app_);
@@ -182,17 +206,22 @@ void Form55::Command30_Click() {
   Trapped(app_.faults, "Form55.Command30", [this] {
     const ExtrudeSettings settings = PrepareHeaders();
     const int next = LayExtrudedPoints(app_.model, settings);
+    app_.model.PointMark(settings.part, 0) = 1;
     if (!settings.additive) FinishMesh(settings, next);
     SyncFaceCorners(app_);
     RefreshViews(app_);
-    PressCaps(settings.profile);
+    PressCaps(settings);
     FinishRing(settings);
   });
   RefreshViews(app_);
 }
 
+int Form55::MeshedRows(const ExtrudeSettings& settings) const {
+  return std::min(HScroll24.value(), RingsOf(app_.model, settings));
+}
+
 void Form55::FinishMesh(const ExtrudeSettings& settings, int next) {
-  const int rows = std::min(HScroll24.value(), RingsOf(app_.model, settings));
+  const int rows = MeshedRows(settings);
   CountExtrudedPoints(app_.model, settings, next, rows);
   app_.revolveprof.BuildGridFaces(RingWidth(settings), rows);
   app_.form5.HScroll20.SetMax(std::max(1, next - 1));
@@ -201,10 +230,12 @@ void Form55::FinishMesh(const ExtrudeSettings& settings, int next) {
 
 // Each tick presses the end cap of the other name: layer 0 is the top of a body that stands on its last
 // layer.
-void Form55::PressCaps(int profile) {
-  const ProfileHeader& header = app_.model.Profile(profile);
-  if (header.topCap == 1) app_.freeface.Command4.Press();
-  if (header.bottomCap == 1) app_.freeface.Command5.Press();
+void Form55::PressCaps(const ExtrudeSettings& settings) {
+  const ProfileHeader& header = app_.model.Profile(settings.profile);
+  const LaidGrid body{RingWidth(settings), MeshedRows(settings)};
+  FreeFace& faces = app_.freeface;
+  if (header.topCap == 1) faces.PressCap(faces.Command4, body);
+  if (header.bottomCap == 1) faces.PressCap(faces.Command5, body);
 }
 
 void Form55::FinishRing(const ExtrudeSettings& settings) {

@@ -23,6 +23,8 @@ class Form55 : public Window {
 
   // The settings of the current profile show; nothing is written.
   void ShowProfile();
+  // The general fields show anew; they were changed elsewhere.
+  void ShowGeneralFields();
   // The current Part was chosen elsewhere.
   void ShowPart();
 
@@ -49,6 +51,9 @@ class Form55 : public Window {
   TextBox Text22{*this, "Text22", "0"};
   ScrollBar HScroll6{*this, "HScroll6", {0, kMaxLayer, 0, 1, 5}, "Section", "the section that is bent"};
   TextBox Text14{*this, "Text14", "0"};
+  // The profile's and the layer's selector once more, where nobody sees them.
+  ScrollBar HScroll36{*this, "HScroll36", {0, kMaxProfile, 0, 1, 5}, "Profile #"};
+  ScrollBar HScroll4{*this, "HScroll4", {0, kMaxLayer, 0, 1, 5}, "Layer"};
   CheckBox Check4{*this, "Check4", "Progressive", false,
                   "layer settings go to all layers from the selected one to the last"};
 
@@ -72,8 +77,10 @@ class Form55 : public Window {
   void Command33_Click();
   void Command30_Click();
   ExtrudeSettings PrepareHeaders();
+  int MeshedRows(const ExtrudeSettings& settings) const;
   void FinishMesh(const ExtrudeSettings& settings, int next);
-  void PressCaps(int profile);
+  void ShowFieldsLike(std::size_t row);
+  void PressCaps(const ExtrudeSettings& settings);
   void FinishRing(const ExtrudeSettings& settings);
   ScrollBar& FieldBar(std::string_view name);
   LayoutItem FieldFrame(std::string_view title);

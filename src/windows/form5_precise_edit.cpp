@@ -86,7 +86,7 @@ struct EditButton {
   const char* toolTip;
 };
 
-constexpr std::string_view kMove = "Move", kTurn = "Turn", kTurnInSteps = "Turn in progressive steps",
+constexpr std::string_view kMove = "Move", kTurn = "Turn", kTurnInSteps = "Rotate in progressive steps",
                            kScale = "Scale", kFlip = "Flip", kSetEqual = "Set equal", kFaces = "Faces",
                            kJoinEnds = "Join Ends";
 
@@ -149,7 +149,6 @@ Form5::Form5(App& app) : Window(app.host, "Form5", "Precise Edit"), app_(app) {
     box->onKeyUp = [this] { RefreshViews(app_); };
   }
   BindRanges();
-  Mirror(HScroll10, Text41);  // the text is the amount: a typed fraction stands
   HScroll11.onChange = [this] { HScroll11_Change(); };
   Command19.onClick = [this](const Click&) { Command19_Click(); };
   MakeEditButtons();
@@ -165,6 +164,7 @@ void Form5::BindRanges() {
                           {&HScroll2, &Text2},
                           {&HScroll5, &Text6},
                           {&HScroll9, &Text4},
+                          {&HScroll10, &Text41},
                           {&HScroll11, &Text8}}) {
     Pair(*bar, *box);
   }
@@ -253,7 +253,8 @@ void Form5::ShiftLayers(int layers) {
 
 void Form5::Command19_Click() {
   Trapped(app_.faults, Command19.FullName(), [this] {
-    app_.model.Part(CurrentPart(app_)).Sections = Narrow<std::int16_t>(HScroll5.value() - 1);
+    // A ring has a section at least.
+    app_.model.Part(CurrentPart(app_)).Sections = Narrow<std::int16_t>(std::max(1, HScroll5.value() - 1));
     SyncFaceCorners(app_);
   });
   RefreshViews(app_);
@@ -283,8 +284,9 @@ LayoutItem Form5::DeclareLayout() {
                               BarRow(HScroll1, {&Text1, &Command11}), BarRow(HScroll2, {&Text2, &Command13}),
                               BarRow(HScroll5, {&Text6, &Command19}), BarRow(HScroll11, {&Text8})}),
       frame(kMove, {BarRow(HScroll10, {&Text41})}),
-      Frame(std::string(kTurn), {Labelled("Rotate amt", Text19), ButtonRow(kTurn), ButtonRow(kTurnInSteps)}),
-      frame(kScale, {Row({Labelled("Scale amnt -", Text10), Labelled("+", Text20)})}),
+      frame(kTurn, {Labelled("Rotate amt", Text19)}),
+      frame(kTurnInSteps, {}),
+      frame(kScale, {Row({Labelled("Scale amnt", Text10), Single(Text20)})}),
       frame(kFlip, {Single(Check2)}, {&Option3, &Option2, &Option1}),
       frame(kSetEqual, {}, {&Option4, &Option5, &Option6}),
       Row({frame(kFaces, {}), frame(kJoinEnds, {})}),

@@ -5,10 +5,10 @@
 
 #include "base/numbers.h"
 #include "geometry/grid.h"
+#include "profiles/keep_finite.h"
 #include "windows/app.h"
 #include "windows/follow_counts.h"
 #include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
 #include "windows/formulas_edit_profile.h"
 #include "windows/freeface_free_faces.h"
 #include "windows/refresh_views.h"
@@ -54,8 +54,9 @@ void Formulas3Frm::BindParameters() {
 // `edit` is told the block and whether the right button asks for the way back.
 template <typename Edit>
 void Formulas3Frm::BindEdit(PushButton& button, Edit edit) {
+  button.actsOnMouseDown = true;
   button.onClick = [this, edit](const Click& click) {
-    edit(ReadBlock(), click.IsRight());
+    EditKeepingFinite(app_.model, [&] { edit(ReadBlock(), click.IsRight()); });
     ShowEdit();
   };
 }
@@ -132,8 +133,8 @@ void Formulas3Frm::Command7_Click() {
   const int part = CurrentPart(app_);
   const int after = Check1.value() ? std::max<int>(0, app_.model.Part(part).maxpoints) : 0;
   LayProfiles(app_.model, part, ReadStack(), after);
+  app_.model.Part(part).grid.reset();
   FollowCounts(app_);
-  app_.form5.HScroll20.SetValue(1);
   SyncFaceCorners(app_);
   RefreshViews(app_);
 }
@@ -169,6 +170,7 @@ void Formulas3Frm::BuildFaces(const ProfileStack& stack, int pointsBefore) {
   pelorium::BuildGridFaces(app_.model, part, stack.Width(), stack.Rows(), Seam::Open, place);
   app_.model.Part(part).Sections = Narrow<std::int16_t>(std::max(0, stack.Width() - 1));
   app_.model.Part(part).count = 0;
+  app_.model.Part(part).grid.reset();  // its caps are its own
   PressCaps(stack, pointsBefore);
   FollowGenerated(app_);
 }

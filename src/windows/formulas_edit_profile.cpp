@@ -7,6 +7,7 @@
 
 #include "base/numbers.h"
 #include "profiles/gray_to_z.h"
+#include "profiles/keep_finite.h"
 #include "profiles/random_profile.h"
 #include "windows/app.h"
 #include "windows/form36_view.h"
@@ -14,6 +15,7 @@
 #include "windows/form5_precise_edit.h"
 #include "windows/formulas2frm_profile_formulas.h"
 #include "windows/formulas3frm_edit_profile_ranges.h"
+#include "windows/raised.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
 
@@ -88,7 +90,7 @@ void Formulas::BindParameters() {
 void Formulas::Bind(PushButton& button, std::function<void()> edit) {
   button.onClick = [this, &button, edit = std::move(edit)](const Click&) {
     const int profile = CurrentProfile(app_), count = app_.model.Profile(profile).count;
-    Trapped(app_.faults, button.FullName(), edit);
+    Trapped(app_.faults, button.FullName(), [&] { EditKeepingFinite(app_.model, edit); });
     if (app_.model.Profile(profile).count != count) app_.form51.ShowProfileCount();
     ShowCoordinates();
     RefreshViews(app_);
@@ -140,14 +142,13 @@ void Formulas::BindMirrors() {
 
 void Formulas::BindFetches() {
   ModelStore& model = app_.model;
-  Bind(Command14, [this, &model] { FetchLayer(model, Rings(), HScroll18.value(), CurrentProfile(app_)); });
-  Bind(Command6, [this, &model] {
-    FetchLayers(model, Rings(), HScroll9.value(), HScroll10.value(), HScroll11.value());
-  });
+  Bind(Command14, [this, &model] { GetLayer(model, Rings(), HScroll18.value(), CurrentProfile(app_)); });
+  Bind(Command6,
+       [this, &model] { GetLayers(model, Rings(), HScroll9.value(), HScroll10.value(), HScroll11.value()); });
   Bind(Command9, [this, &model] {
     RingGrid rings = Rings();
     rings.rowLength = rings.pointsPerRing;
-    FetchSides(model, rings, HScroll7.value(), HScroll8.value(), HScroll12.value());
+    GetSides(model, rings, HScroll7.value(), HScroll8.value(), HScroll12.value());
   });
 }
 
@@ -166,8 +167,7 @@ void Formulas::JoinEnds() {
 
 void Formulas::FetchRandom() {
   app_.random.SeedFromClock(app_.platform.ClockReading());
-  RandomProfile(app_.model, CurrentProfile(app_), Points(), view.Plane(), Origin(app_), kRandomRange,
-                app_.random);
+  RandomProfile(app_.model, CurrentProfile(app_), Points(), Plane(), Origin(app_), kRandomRange, app_.random);
 }
 
 void Formulas::FetchGrays() {
@@ -177,12 +177,26 @@ void Formulas::FetchGrays() {
   GrayToZ(app_.model, CurrentProfile(app_), Points(), {view36.Picture2.picture, panX, panY, Text4.Number()});
 }
 
-void Formulas::ChooseSubView(Projection projection) {
+void Formulas::ShowSubView() {
   for (ProfileViewOptions* options : {&view, &app_.formulas2frm.view, &app_.formulas3frm.view}) {
-    options->Of(projection).SetValue(true);
+    options->Of(subView_).SetValue(true);
   }
+}
+
+void Formulas::ChooseSubView(Projection projection) {
+  subView_ = projection;
+  ShowSubView();
   app_.form51.Option1.SetValue(true);
   RefreshViews(app_);
+}
+
+void Formulas::ChooseShaded() {
+  if (isShadedChosen_) return;  // the others follow this one
+  const Raised choosing(isShadedChosen_);
+  for (ProfileViewOptions* options : {&view, &app_.formulas2frm.view, &app_.formulas3frm.view}) {
+    options->Option8.SetValue(true);
+  }
+  app_.form51.Command2.Press();
 }
 
 void Formulas::ShowProfile() {

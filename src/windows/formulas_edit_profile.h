@@ -22,10 +22,15 @@ class Formulas : public Window {
  public:
   explicit Formulas(App& app);
 
-  // The projection of the profile view.
-  Projection SubView() const { return view.Chosen(); }
+  // The projection of the profile view: the last side that was chosen.
+  Projection SubView() const { return subView_; }
+  ProfilePlane Plane() const { return PlaneOf(subView_); }
   // Switches to the profile view, seen from that side; the options of all profile windows follow.
   void ChooseSubView(Projection projection);
+  // Switches to the shaded view; the same option of all profile windows follows.
+  void ChooseShaded();
+  // The options go back from "Shaded" to the side of the profile view.
+  void ShowSubView();
 
   // The current profile was chosen, loaded or changed: its number and its chosen point show.
   void ShowProfile();
@@ -155,6 +160,8 @@ class Formulas : public Window {
   LayoutItem DeclareLayout();
 
   App& app_;
+  Projection subView_ = Projection::Front;
+  bool isShadedChosen_ = false;  // "Shaded" is being chosen in all windows
   ProfileDrag drag_;
 };
 

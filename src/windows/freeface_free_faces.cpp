@@ -27,7 +27,11 @@ int Held(const TextBox& box, int low, int high) {
 }
 
 // Stores what a person typed or picked, even when the bar stands there already.
-void StoreTyped(ScrollBar& bar, double number) {
+void StoreTyped(ScrollBar& bar, TextBox& box) {
+  if (!bar.TakeTyped(box)) bar.onChange();
+}
+
+void StorePicked(ScrollBar& bar, double number) {
   const int before = bar.value();
   bar.Drag(number);
   if (bar.value() == before) bar.onChange();
@@ -92,6 +96,7 @@ void FreeFace::BindCreation() {
 }
 
 void FreeFace::BindCounts() {
+  Text18.onKeyUp = [this] { app_.model.Part(CurrentPart(app_)).grid.reset(); };
   for (auto [button, step] : {std::pair{&Command2, 1}, {&Command3, -1}}) {
     button->onClick = [this, button, step](const Click&) {
       ChangeFaceCount(*button, app_.model.Part(CurrentPart(app_)).maxfaces + step);
@@ -112,15 +117,15 @@ void FreeFace::BindRouting() {
                                                        {HScroll18, Text13, &FaceRec::corner3pt}}) {
     Mirror(c.bar, c.box);
     c.bar.onChange = [this, c] { StoreCorner(c.bar, c.point); };
-    c.box.onKeyUp = [c] { StoreTyped(c.bar, c.box.Number()); };
+    c.box.onKeyUp = [c] { StoreTyped(c.bar, c.box); };
     c.box.onDoubleClick = [this, c] {
       const double picked = Val(app_.form36.Label16.caption());
-      if (picked > 0) StoreTyped(c.bar, picked);
+      if (picked > 0) StorePicked(c.bar, picked);
     };
   }
   Mirror(HScroll19, Text17);
   HScroll19.onChange = [this] { StoreOnOff(); };
-  Text17.onKeyUp = [this] { StoreTyped(HScroll19, Text17.Number()); };
+  Text17.onKeyUp = [this] { StoreTyped(HScroll19, Text17); };
   HScroll12.onChange = [this] { HScroll12_Change(); };
   Command10.onClick = [this](const Click&) { Command10_Click(); };
 }
@@ -143,10 +148,30 @@ FreeFaceSettings FreeFace::ReadSettings() const {
   s.runFaces = HScroll14.value();
   s.stripWidth = Held(Text22, 0, kMaxPoints);
   s.stripIsClosed = app_.revolveprof.Check4.value();
-  s.bodySections = app_.revolveprof.HScroll10.value();
-  s.bodyWidth = s.bodySections + Held(Text18, -kMaxPoints, kMaxPoints);
-  s.bodyRows = app_.revolveprof.HScroll22.value();
+  ReadBody(s);
   return s;
+}
+
+// The body that a cap closes: what the generator laid; by hand the same, as long as the Part is what was laid
+// last; else what Revolve Profile says. The last point of a laid row stands where the first one does, or will
+// be joined to it.
+void FreeFace::ReadBody(FreeFaceSettings& s) const {
+  const auto& grid = app_.model.Part(CurrentPart(app_)).grid;
+  if (pressedBody_ || grid) {
+    s.body = pressedBody_ ? *pressedBody_ : *grid;
+    s.capFaces = s.body.width - 2;
+  } else {
+    const int sections = app_.revolveprof.HScroll10.value();
+    s.body = {sections + Held(Text18, -kMaxPoints, kMaxPoints), app_.revolveprof.HScroll22.value()};
+    s.capFaces = sections - 1;
+  }
+}
+
+void FreeFace::PressCap(PushButton& button, const LaidGrid& body) {
+  if (body.rows < 1) return;
+  pressedBody_ = body;
+  button.Press();
+  pressedBody_.reset();
 }
 
 void FreeFace::FinishAppending() {
@@ -173,8 +198,8 @@ void FreeFace::ChangeFaceCount(const Control& button, int count) {
 void FreeFace::ImportProfiles(int first, int last) {
   Trapped(app_.faults, Command13.FullName(), [&] {
     ImportProfilePoints(app_.model, CurrentPart(app_), first, last);
+    app_.model.Part(CurrentPart(app_)).grid.reset();
     FollowCounts(app_);
-    app_.form5.HScroll20.SetValue(1);
     SyncFaceCorners(app_);
   });
   RefreshViews(app_);
@@ -198,6 +223,11 @@ void FreeFace::StoreOnOff() {
     SyncFaceCorners(app_);
   });
   RefreshViews(app_);
+}
+
+void FreeFace::ShowFaces() {
+  Text16.SetText(std::to_string(app_.model.Part(CurrentPart(app_)).maxfaces));
+  HScroll12_Change();
 }
 
 void FreeFace::HScroll12_Change() {

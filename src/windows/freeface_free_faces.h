@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "controls/buttons.h"
 #include "controls/scroll_bar.h"
@@ -21,6 +22,13 @@ class FreeFace : public Window {
   // The points of the profiles first..last become those of the current Part, from point 1, and the ranges
   // follow.
   void ImportProfiles(int first, int last);
+
+  // The count of faces and the face in the routing boxes, after the Part's content changed.
+  void ShowFaces();
+
+  // Presses a cap's button for a generator: the cap closes the body that was just laid. One without rows gets
+  // none.
+  void PressCap(PushButton& button, const LaidGrid& body);
 
   ScrollBar HScroll1{
       *this, "HScroll1", {1, kMaxPoints, 1, 1, 32}, "Start pt", "Designate start pt for end cap"};
@@ -107,6 +115,7 @@ class FreeFace : public Window {
   void BindCounts();
   void BindRouting();
   FreeFaceSettings ReadSettings() const;
+  void ReadBody(FreeFaceSettings& settings) const;
   void FinishAppending();
   void ChangeFaceCount(const Control& button, int count);
   FaceRec& RoutedFace();
@@ -117,6 +126,7 @@ class FreeFace : public Window {
   LayoutItem DeclareLayout();
 
   App& app_;
+  std::optional<LaidGrid> pressedBody_;  // of the generator that presses a cap
 };
 
 }  // namespace pelorium

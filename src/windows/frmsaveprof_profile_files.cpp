@@ -1,7 +1,6 @@
 // "Save/Open profile".
 #include "windows/frmsaveprof_profile_files.h"
 
-#include "base/files.h"
 #include "core/profile_file.h"
 #include "windows/app.h"
 #include "windows/file_names.h"
@@ -13,10 +12,10 @@
 namespace pelorium {
 
 FrmSaveProf::FrmSaveProf(App& app) : Window(app.host, "frmsaveprof", "Save/Open profile"), app_(app) {
-  Command1.onClick = [this](const Click&) { Command1_Click(); };
-  Command2.onClick = [this](const Click&) { Command2_Click(); };
-  Command4.onClick = [this](const Click&) { Export(Command4, ProfileReport::Points); };
-  Command3.onClick = [this](const Click&) { Export(Command3, ProfileReport::Parametric); };
+  Command1.onClick = [this](const Click&) { SaveProfiles(); };
+  Command2.onClick = [this](const Click&) { OpenProfiles(); };
+  Command4.onClick = [this](const Click&) { ExportInfo(); };
+  Command3.onClick = [this](const Click&) { ExportParametric(); };
   SetLayout(DeclareLayout());
 }
 
@@ -34,33 +33,39 @@ bool FrmSaveProf::ChooseFile(bool save, const char* title, const char* folder) {
   return !name.empty();
 }
 
-void FrmSaveProf::Command1_Click() {
+void FrmSaveProf::SaveProfiles() {
   Trapped(app_.faults, Command1.FullName(), [this] {
     if (!ChooseFile(true, "Save profiles (.txt file)", "profiles")) return;
-    ReplaceFile(Text1.text(), [this](TextWriter& out) { WriteProfiles(app_.model, out); });
+    SaveFile(app_, Text1.text(), [this](TextWriter& out) { WriteProfiles(app_.model, out); });
   });
 }
 
 // A file that goes wrong half-way leaves what was read, and that shows too.
-void FrmSaveProf::Command2_Click() {
+void FrmSaveProf::OpenProfiles() {
   const HoldAutomaticActions hold(app_);
-  Trapped(app_.faults, Command2.FullName(), [this] {
-    if (!ChooseFile(false, "Open Profiles (.txt file)", "profiles")) return;
-    const std::string text = ReadFile(Text1.text());
-    Trapped(app_.faults, Command2.FullName(), [&] {
+  bool isChosen = false;
+  Trapped(app_.faults, Command2.FullName(), [&] {
+    isChosen = ChooseFile(false, "Open Profiles (.txt file)", "profiles");
+    if (!isChosen) return;
+    OpenFile(app_, Text1.text(), [this](std::string_view text) {
       ReadProfileFile(app_.model, text);
-      ScrollBar& sections = app_.revolveprof.HScroll10;
-      sections.SetValue(sections.Clamped(app_.model.Profile(CurrentProfile(app_)).sectionCount));
+      return "profiles of " + std::filesystem::path(Text1.text()).filename().string();
     });
-    app_.form51.ShowProfile();
-    RefreshViews(app_);
+    ScrollBar& sections = app_.revolveprof.HScroll10;
+    sections.SetValue(sections.Clamped(app_.model.Profile(CurrentProfile(app_)).sectionCount));
   });
+  if (!isChosen) return;
+  app_.form51.ShowProfile();
+  RefreshViews(app_);
 }
+
+void FrmSaveProf::ExportInfo() { Export(Command4, ProfileReport::Points); }
+void FrmSaveProf::ExportParametric() { Export(Command3, ProfileReport::Parametric); }
 
 void FrmSaveProf::Export(const PushButton& button, ProfileReport report) {
   Trapped(app_.faults, button.FullName(), [&] {
     if (!ChooseFile(true, "Export profile info (.txt file)", "profinfo")) return;
-    WriteFile(Text1.text(), [&](TextWriter& out) { WriteProfileReport(app_.model, report, out); });
+    ExportFile(app_, Text1.text(), [&](TextWriter& out) { WriteProfileReport(app_.model, report, out); });
   });
 }
 

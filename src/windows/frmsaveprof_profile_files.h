@@ -23,8 +23,10 @@ class FrmSaveProf : public Window {
 
  private:
   bool ChooseFile(bool save, const char* title, const char* folder);
-  void Command1_Click();
-  void Command2_Click();
+  void SaveProfiles();
+  void OpenProfiles();
+  void ExportInfo();
+  void ExportParametric();
   void Export(const PushButton& button, ProfileReport report);
   LayoutItem DeclareLayout();
 

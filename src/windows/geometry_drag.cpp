@@ -1,8 +1,10 @@
 // Drags and picks on the small pictures of "Edit Geometry".
 #include "windows/geometry_drag.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "base/numbers.h"
 #include "core/chosen_points.h"
 #include "geometry/edit_chosen_points.h"
 #include "views/draw_views.h"
@@ -24,6 +26,13 @@ constexpr double kSpeed = 0.5;      // units or degrees for each unit dragged, a
 constexpr double kSlowerTurn = 10;  // the second turn is slower by this
 constexpr Colour kAreaColour = Rgb(250, 250, 250);
 
+// Pixels of an area that stands for the whole view: as wide as it was made, as high as the view's shape asks
+// for.
+int HeightLike(const Picture& view, int width) {
+  const double height = static_cast<double>(width) * view.PixelHeight() / view.PixelWidth();
+  return std::clamp(static_cast<int>(RoundHalfEven(height)), 1, 4 * width);
+}
+
 // A factor of 1 would round the last digit.
 void ScaleBySign(ModelStore& model, const ChosenPoints& chosen, Axis axis, double dragged,
                  const Vec3& pivot) {
@@ -42,10 +51,17 @@ OverlayShape ShapeOf(const PickArea& area) {
 }  // namespace
 
 GeometryDrag::GeometryDrag(App& app, PictureBox& picture, std::function<GeometryMode()> mode)
-    : app_(app), picture_(picture), mode_(std::move(mode)) {
+    : app_(app),
+      picture_(picture),
+      mode_(std::move(mode)),
+      ownWidth_(picture.picture.PixelWidth()),
+      ownHeight_(picture.picture.PixelHeight()) {
   picture.onMouseDown = [this](const MouseEvent& event) { Press(event); };
   picture.onMouseMove = [this](const MouseEvent& event) { Move(event); };
-  picture.onMouseUp = [this](const MouseEvent&) { isDown_ = false; };
+  picture.onMouseUp = [this](const MouseEvent&) {
+    isDown_ = false;
+    ShowPath(false);
+  };
   picture.onDoubleClick = [this] {
     if (mode_() != GeometryMode::MoveOrigin) return;
     SetOrigin(app_, {0, 0, 0});
@@ -56,6 +72,9 @@ GeometryDrag::GeometryDrag(App& app, PictureBox& picture, std::function<Geometry
 void GeometryDrag::FollowView() {
   Picture& area = picture_.picture;
   const Picture& view = app_.form36.Picture1.picture;
+  const bool isWholeView = mode_() == GeometryMode::PickPoints;
+  const int wantedHeight = isWholeView ? HeightLike(view, ownWidth_) : ownHeight_;
+  if (area.PixelHeight() != wantedHeight) area.Resize(ownWidth_, wantedHeight);
   const double width = area.PixelWidth(), height = area.PixelHeight();
   switch (mode_()) {
     case GeometryMode::PickPoints:
@@ -74,7 +93,7 @@ void GeometryDrag::ShowView(ViewSettings settings) {
   FollowView();
   if (mode_() == GeometryMode::PickPoints) {
     settings.showGrid = settings.showChosenPoints = settings.showAllPoints = false;
-    DrawViews(app_.model, settings, picture_.picture);
+    DrawViews(app_.model, settings, picture_.picture, app_.faults);
   } else {
     picture_.picture.Clear();
   }
@@ -83,7 +102,7 @@ void GeometryDrag::ShowView(ViewSettings settings) {
 
 void GeometryDrag::Press(const MouseEvent& event) {
   FollowView();
-  last_ = event;
+  last_ = pressed_ = event;
   isDown_ = true;
   picture_.picture.overlay.clear();
   if (mode_() == GeometryMode::PickPoints) Pick();
@@ -107,8 +126,7 @@ void GeometryDrag::Pick() {
     const auto view = PickViewAt(app_, last_.x, last_.y);
     if (!view) return;
     const SpecialEffects5& window = app_.specialeffects5;
-    PickArea area{PickShape::Rectangle, last_.x, last_.y, static_cast<double>(window.HScroll2.value()),
-                  static_cast<double>(window.HScroll6.value())};
+    PickArea area{PickShape::Rectangle, last_.x, last_.y, window.HScroll2.Shown(), window.HScroll6.Shown()};
     if (window.Option2.value()) {
       area.shape = PickShape::Circle;
       area.halfWidth = area.halfHeight;
@@ -120,11 +138,21 @@ void GeometryDrag::Pick() {
   RefreshViews(app_);
 }
 
+// A line from the press to the mouse, for a drag that leaves the points where they are.
+void GeometryDrag::ShowPath(bool isShown) {
+  auto& overlay = picture_.picture.overlay;
+  if (mode_() == GeometryMode::PickPoints || (overlay.empty() && !isShown)) return;
+  overlay.clear();
+  if (isShown) overlay.push_back({pressed_.x, pressed_.y, last_.x, last_.y, kAreaColour});
+  picture_.NotifyChanged();
+}
+
 // One step of a drag. It shows in any case; the model changes only when it may.
 void GeometryDrag::Edit(double dx, double dy) {
   const GeometryMode mode = mode_();
   if (mode == GeometryMode::PickPoints) return;
   const bool mayEdit = app_.specialeffects5.Check3.value();
+  ShowPath(!mayEdit && mode != GeometryMode::MoveOrigin);
   Trapped(app_.faults, picture_.FullName(), [&] {
     if (mode == GeometryMode::MoveOrigin) MoveOrigin(dx, dy);
     if (mode == GeometryMode::Move && mayEdit) MovePoints(dx, dy);

@@ -23,8 +23,8 @@ class GeometryDrag {
   GeometryDrag(App& app, PictureBox& picture, std::function<GeometryMode()> mode);
 
   // Gives the picture the units of its mode: one a pixel, Y downward, for edits of points; the units a pixel
-  // of the view for the origin, so that it keeps step with the mouse; the whole view for picks, so that a
-  // place of the area means that place of the view.
+  // of the view for the origin, so that it keeps step with the mouse; the whole view for picks, in the view's
+  // proportions, so that a place of the area means that place of the view.
   void FollowView();
 
   // An area that picks shows the wire of the view in miniature; what other areas showed goes.
@@ -34,6 +34,7 @@ class GeometryDrag {
   void Press(const MouseEvent& event);
   void Move(const MouseEvent& event);
   void Pick();
+  void ShowPath(bool isShown);
   void Edit(double dx, double dy);
   void MovePoints(double dx, double dy);
   void RotatePoints(double dx, double dy);
@@ -45,6 +46,8 @@ class GeometryDrag {
   App& app_;
   PictureBox& picture_;
   std::function<GeometryMode()> mode_;
+  int ownWidth_, ownHeight_;  // pixels, as the picture was made
+  MouseEvent pressed_;
   MouseEvent last_;  // place of the last event, button of the press
   bool isDown_ = false;
 };

@@ -55,10 +55,10 @@ void HelpMe::LoadHelp() { Load(app_.applicationPath / "help.rtf"); }
 
 void HelpMe::Load(const std::filesystem::path& path) { RichTextBox1.SetText(ReadTextFile(ReadFile(path))); }
 
-void HelpMe::Save(const std::filesystem::path& path) const {
+void HelpMe::Save(const std::filesystem::path& path) {
   const bool isRich = MatchesPattern(path.filename().string(), "*.rtf");
   const std::string bytes = isRich ? RichTextFile(RichTextBox1.text()) : PlainTextFile(RichTextBox1.text());
-  ReplaceFile(path, [&bytes](TextWriter& writer) { writer.Text(bytes); });
+  SaveFile(app_, path, [&bytes](TextWriter& writer) { writer.Text(bytes); });
 }
 
 Colour HelpMe::ChosenColour() const { return Rgb(HScroll2.value(), HScroll3.value(), HScroll4.value()); }
@@ -86,7 +86,9 @@ void HelpMe::Command3_Click() {
 void HelpMe::Command10_Click() {
   Trapped(app_.faults, "helpme.Command10", [this] {
     const auto path = AskFileName(app_, {false, "Open notes", kNotesFolder, kOpenFilter, kNotesEnding});
-    if (!path.empty()) Load(path);
+    if (path.empty()) return;
+    Load(FileNamed(app_, path));
+    app_.notices.Give("opened " + path.filename().string(), NoticeKind::Result);
   });
 }
 

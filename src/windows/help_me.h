@@ -62,7 +62,7 @@ class HelpMe : public Window {
   void Command11_Click();
 
   void Load(const std::filesystem::path& path);
-  void Save(const std::filesystem::path& path) const;
+  void Save(const std::filesystem::path& path);
 
   App& app_;
 };

@@ -100,8 +100,15 @@ void MDIForm1::PlaceWindows() {
   app_.form51.Show();
 }
 
+// A few windows first, by name; then the rest.
 void MDIForm1::Exit() {
-  for (Window* window : app_.windows()) window->Hide();
+  std::vector<Window*> all = app_.windows();
+  auto rest = all.begin();
+  for (const char* name : {"Form47", "editbyface", "Form12", "Form14"}) {
+    const auto found = std::find_if(rest, all.end(), [name](const Window* w) { return w->name() == name; });
+    if (found != all.end()) std::rotate(rest++, found, found + 1);
+  }
+  for (Window* window : all) window->Hide();
   app_.exitRequested = true;
 }
 

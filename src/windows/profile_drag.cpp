@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "profiles/keep_finite.h"
 #include "windows/app.h"
 #include "windows/drag_factor.h"
 #include "windows/shared_parameters.h"
@@ -32,7 +33,7 @@ void ProfileDrag::Drag(const MouseEvent& event) {
   const double dx = double{event.x} - last_.x, dy = double{event.y} - last_.y;
   last_.x = event.x;
   last_.y = event.y;
-  Apply(target_.block(), dx, dy);
+  EditKeepingFinite(app_.model, [&] { Apply(target_.block(), dx, dy); });
   target_.onEdited();
 }
 

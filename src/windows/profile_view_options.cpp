@@ -20,20 +20,21 @@ ProfileViewOptions::ProfileViewOptions(Window& owner, App& app)
       Option7(owner, "Option7", "3d", kGroup, false, "show profiles from the front, Y leaning in"),
       Option8(owner, "Option8", "Shaded", kGroup, false, "show the Parts shaded") {
   for (OptionButton* option : {&Option4, &Option5, &Option6, &Option7}) {
-    option->onClick = [this, &app](const Click&) { app.formulas.ChooseSubView(Chosen()); };
+    option->onClick = [this, &app](const Click&) { app.formulas.ChooseSubView(*Chosen()); };
   }
-  Option8.onClick = [&app](const Click&) { app.form51.Command2.Press(); };
+  Option8.onClick = [&app](const Click&) { app.formulas.ChooseShaded(); };
 }
 
-Projection ProfileViewOptions::Chosen() const {
+std::optional<Projection> ProfileViewOptions::Chosen() const {
+  if (Option4.value()) return Projection::Front;
   if (Option5.value()) return Projection::Top;
   if (Option6.value()) return Projection::Side;
   if (Option7.value()) return Projection::Oblique;
-  return Projection::Front;
+  return std::nullopt;
 }
 
-ProfilePlane ProfileViewOptions::Plane() const {
-  switch (Chosen()) {
+ProfilePlane PlaneOf(Projection projection) {
+  switch (projection) {
     case Projection::Top:
       return ProfilePlane::XY;
     case Projection::Side:

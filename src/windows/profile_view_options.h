@@ -1,6 +1,7 @@
 // The view options that the profile windows share: from which side profiles are seen and drawn.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "controls/buttons.h"
@@ -11,15 +12,16 @@ namespace pelorium {
 
 class App;
 
+// The plane that points are drawn in; the leaning view draws in that of the front.
+ProfilePlane PlaneOf(Projection projection);
+
 class ProfileViewOptions {
  public:
   ProfileViewOptions(Window& owner, App& app);
 
-  // The side that is switched on.
-  Projection Chosen() const;
+  // The side that is switched on; none while "Shaded" is.
+  std::optional<Projection> Chosen() const;
   OptionButton& Of(Projection projection);
-  // The plane that points are drawn in; the leaning view draws in that of the front.
-  ProfilePlane Plane() const;
   std::vector<Control*> All() { return {&Option4, &Option5, &Option6, &Option7, &Option8}; }
 
   OptionButton Option4, Option5, Option6, Option7, Option8;

@@ -1,9 +1,9 @@
 // The quick save.
 #include "windows/quick_save.h"
 
-#include "base/files.h"
 #include "core/project_file.h"
 #include "windows/app.h"
+#include "windows/file_names.h"
 #include "windows/follow_counts.h"
 #include "windows/form51_view_options.h"
 #include "windows/refresh_views.h"
@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::int16_t kFewestSections = 4;
 
-std::filesystem::path QuickSaveFile(const App& app) { return Under(app.applicationPath, "\\qsave.txt"); }
+constexpr const char* kQuickSaveFile = "qsave.txt";
 
 // The bar's handler writes the sections into the Part too; the Part's own, just read, go back afterwards.
 void FollowProfileSections(App& app) {
@@ -35,13 +35,16 @@ void FollowProfileSections(App& app) {
 
 void QuickSave(App& app) {
   Trapped(app.faults, "MDIForm1.memsave", [&app] {
-    ReplaceFile(QuickSaveFile(app), [&app](TextWriter& out) { WriteProject(app.model, out); });
+    SaveFile(app, kQuickSaveFile, [&app](TextWriter& out) { WriteProject(app.model, out); });
   });
 }
 
 void QuickGet(App& app) {
   Trapped(app.faults, "MDIForm1.restoreit", [&app] {
-    ReadProject(app.model, ReadFile(QuickSaveFile(app)));
+    OpenFile(app, kQuickSaveFile, [&app](std::string_view text) {
+      ReadProject(app.model, text);
+      return CountsOfParts(app);
+    });
     FollowCounts(app);
     FollowProfileSections(app);
     FollowSections(app);

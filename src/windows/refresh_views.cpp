@@ -70,11 +70,11 @@ void RefreshViews(App& app) {
   Trapped(app.faults, "RefreshViews", [&app] {
     Form36& view = app.form36;
     view.ShowTotals();
-    if (app.form51.Option11.value()) return app.shadedView->DrawShaded();
+    if (app.form51.Option11.value()) return view.Command16.Press();
     const ViewSettings settings = GatherViewSettings(app);
     if (settings.mode != ViewMode::None) view.Label54.SetCaption(std::string(ViewCaption(settings)));
     view.mouse.Refreshed();
-    DrawViews(app.model, settings, view.Picture1.picture);
+    DrawViews(app.model, settings, view.Picture1.picture, app.faults);
     app.specialeffects5.ShowView(settings);
   });
 }

@@ -24,7 +24,8 @@ namespace {
 constexpr int kMostSections = 61;
 constexpr double kHundredths = 100;
 
-int Whole(const TextBox& box) { return ToInteger<int>(box.Number()); }
+// A typed end of a range, held in that of its bar: a loop over it ends.
+int HeldIn(const ScrollBar& bar, const TextBox& box) { return bar.Clamped(box.Number()); }
 
 }  // namespace
 
@@ -32,6 +33,9 @@ RevolveProf::RevolveProf(App& app) : Window(app.host, "revolveprof", "Revolve Pr
   BindParameters();
   BindGeneralFields();
   HScroll10.onChange = [this] { HScroll10_Change(); };
+  for (ScrollBar* bar : {&HScroll10, &HScroll22}) {
+    bar->onMovedByPerson = [this] { app_.model.Part(CurrentPart(app_)).grid.reset(); };
+  }
   Command15.onClick = [this](const Click&) { Command15_Click(); };
   Command18.onClick = [this](const Click&) { Command18_Click(); };
   SetLayout(DeclareLayout());
@@ -90,7 +94,7 @@ void RevolveProf::BindGeneralFields() {
     Pair(*f.bar, *f.box, f.divisor);
     f.bar->onChange = [this, f] {
       app_.model.Profile(CurrentProfile(app_)).*f.field = f.bar->Shown();
-      app_.form55.ShowProfile();
+      app_.form55.ShowGeneralFields();
       AutoRevolve();
     };
   }
@@ -134,14 +138,16 @@ void RevolveProf::HScroll10_Change() {
   AutoRevolve();
 }
 
+int RevolveProf::FirstSection() const { return HeldIn(HScroll9, Text7); }
+
 RevolveSettings RevolveProf::ReadSettings() const {
   RevolveSettings s;
   s.profile = CurrentProfile(app_);
   s.part = CurrentPart(app_);
-  s.firstLayer = Whole(Text33);
-  s.lastLayer = Whole(Text34);
-  s.firstSection = Whole(Text7);
-  s.lastSection = Whole(Text6);
+  s.firstLayer = HeldIn(HScroll3, Text33);
+  s.lastLayer = HeldIn(HScroll6, Text34);
+  s.firstSection = FirstSection();
+  s.lastSection = HeldIn(HScroll11, Text6);
   s.firstPlaced = HScroll48.value();
   s.lastPlaced = HScroll47.value();
   s.layersLimit = HScroll22.value();
@@ -155,7 +161,7 @@ RevolveSettings RevolveProf::ReadSettings() const {
   s.multiplyX = Text45.Number();
   s.multiplyY = Text12.Number();
   s.regularSpacing = Check14.value();
-  s.spacing = HScroll42.value();
+  s.spacing = HScroll42.Shown();
   s.origin = Origin(app_);
   return s;
 }
@@ -194,12 +200,13 @@ void RevolveProf::Command15_Click() {
 void RevolveProf::BuildGridFaces(int width, int rows) {
   const int part = CurrentPart(app_);
   pelorium::BuildGridFaces(app_.model, part, width, rows, Check4.value() ? Seam::Wrapped : Seam::Open);
+  app_.model.Part(part).grid = {width, rows};
   FollowGenerated(app_);
   SyncFaceCorners(app_);
   RefreshViews(app_);
 }
 
-void RevolveProf::PressCaps() {
+void RevolveProf::PressCaps(const LaidGrid& body) {
   struct Cap {
     const CheckBox& tick;
     PushButton& button;
@@ -209,12 +216,12 @@ void RevolveProf::PressCaps() {
                                                    {Check7, faces.Command5},
                                                    {Check9, faces.Command7},
                                                    {Check10, faces.Command6}}) {
-    if (cap.tick.value()) cap.button.Press();
+    if (cap.tick.value()) faces.PressCap(cap.button, body);
   }
 }
 
 void RevolveProf::FinishEnds(const RevolveSettings& settings) {
-  PressCaps();
+  PressCaps({RingWidth(settings), MeshedRows(settings)});
   for (const CheckBox* tick : {&Check8, &Check1}) {
     if (tick->value()) Command18.Press();
   }
@@ -257,7 +264,7 @@ LayoutItem RevolveProf::DeclareLayout() {
       Frame("General Positioning", std::move(general)),
       Frame("Simple Revolve Settings",
             {BarRow(HScroll48, {&Text40}), BarRow(HScroll47, {&Text41}), BarRow(HScroll49, {&Text44}),
-             BarRow(HScroll50, {&Text47}), BarRow(HScroll46, {&Text43})}),
+             BarRow(HScroll50, {&Text47, &closing}), BarRow(HScroll46, {&Text43})}),
   });
 }
 

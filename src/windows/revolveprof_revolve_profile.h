@@ -25,8 +25,11 @@ class RevolveProf : public Window {
   // Petals, spiral and corkscrew back to none, as the plain revolve of the menu wants it.
   void ResetEffects();
 
-  // Builds the faces of a grid of `rows` rows of `width` points in the current Part, and lets the ranges
-  // follow.
+  // "Points Start" as typed, held in its bar's range.
+  int FirstSection() const;
+
+  // Builds the faces of a grid of `rows` rows of `width` points in the current Part, keeps what was laid, and
+  // lets the ranges follow.
   void BuildGridFaces(int width, int rows);
 
   ScrollBar HScroll10{*this,
@@ -70,6 +73,7 @@ class RevolveProf : public Window {
   TextBox Text44{*this, "Text44", "31"};
   ScrollBar HScroll50{*this, "HScroll50", {0, 60, 31}, "Sections total"};
   TextBox Text47{*this, "Text47", "31"};
+  Label closing{*this, "closing", ")"};  // of "Sections out of ("
   ScrollBar HScroll46{*this, "HScroll46", {-100, 100, 1}, "Incr Amount (reciprical of 60)"};
   TextBox Text43{*this, "Text43", "1"};
 
@@ -151,7 +155,7 @@ class RevolveProf : public Window {
   void Command18_Click();
   void PrepareHeaders(int profile, int part);
   RevolveSettings ReadSettings() const;
-  void PressCaps();
+  void PressCaps(const LaidGrid& body);
   void FinishEnds(const RevolveSettings& settings);
   LayoutItem DeclareLayout();
 

@@ -20,7 +20,7 @@ class ShadedView {
   void InitShadedContext() { ++renderContext_; }
 
   // The handle of the last context: they are numbered from 1.
-  int renderContext() const { return renderContext_; }
+  int RenderContext() const { return renderContext_; }
 
   // Draws the model into the view window's picture and into the preview, as it is now: later changes show
   // with the next drawing. A machine that has no OpenGL is told of once, and its pictures stay blank.

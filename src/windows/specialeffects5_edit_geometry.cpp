@@ -10,26 +10,11 @@
 #include "windows/form36_view.h"
 #include "windows/form51_view_options.h"
 #include "windows/form5_precise_edit.h"
+#include "windows/raised.h"
 #include "windows/refresh_views.h"
 #include "windows/shared_parameters.h"
 
 namespace pelorium {
-
-namespace {
-
-// Sets a flag as long as it lives.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-};
-
-}  // namespace
 
 SpecialEffects5::SpecialEffects5(App& app)
     : Window(app.host, "specialeffects5", "Edit Geometry"),
@@ -127,7 +112,7 @@ void SpecialEffects5::BindEdits() {
   }
   for (auto [button, axis] : {std::pair{&Command15, X}, {&Command16, Y}, {&Command17, Z}}) {
     Bind(*button, [this, &model, axis](bool forward) {
-      const int step = app_.form5.HScroll10.value();
+      const double step = app_.form5.Text41.Number();
       MoveChosen(model, Chosen(app_), axis, forward ? step : -step);
       SyncFaceCorners(app_);
     });
@@ -195,7 +180,7 @@ void SpecialEffects5::HScroll7_Change() {
 
 void SpecialEffects5::HScroll9_Change() {
   Apply(HScroll9, [this] {
-    MarkWithin(app_.model, CurrentPart(app_), Origin(app_), HScroll9.value(), Option1.value());
+    MarkWithin(app_.model, CurrentPart(app_), Origin(app_), HScroll9.Shown(), Option1.value());
   });
 }
 

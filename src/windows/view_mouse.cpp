@@ -22,6 +22,12 @@
 
 namespace pelorium {
 
+std::int16_t ToPosition(float position) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  const double rounded = RoundHalfEven(position);
+  return static_cast<std::int16_t>(std::clamp<double>(rounded, Limits::min(), Limits::max()));
+}
+
 namespace {
 
 constexpr int kLengthDecimals = 2;
@@ -31,13 +37,6 @@ constexpr double kPickPixels = 8;      // how near to the mouse a point lies tha
 constexpr int kMostTesselated = 3850;  // the triangles of one point fewer still fit into the table
 
 std::string WholeText(double value) { return GeneralForm(std::floor(value)); }
-
-// Positions are kept in 16 bits, half to even, and stop at their limits.
-std::int16_t ToPosition(float position) {
-  using Limits = std::numeric_limits<std::int16_t>;
-  const double rounded = RoundHalfEven(position);
-  return static_cast<std::int16_t>(std::clamp<double>(rounded, Limits::min(), Limits::max()));
-}
 
 bool DrawsProfile(const App& app) { return app.form51.Option1.value() && app.form51.Check8.value(); }
 
@@ -55,15 +54,29 @@ bool MovesProfile(const App& app) {
 // Where the mouse stands in the plane of the profile view.
 ProfileClick ProfileClickAt(const App& app, const MouseEvent& event) {
   ProfileClick click;
-  click.plane = app.formulas.view.Plane();
+  click.plane = app.formulas.Plane();
   click.across = std::floor(event.x) - app.form36.HScroll1.value();
   click.up = std::floor(event.y) - app.form36.VScroll1.value();
-  click.third = app.formulas.HScroll28.value();
+  click.third = app.formulas.HScroll28.Shown();
   click.advances = event.button == MouseButton::Left;
   return click;
 }
 
-double CircleRadius(const App& app) { return app.specialeffects5.HScroll6.value(); }
+double CircleRadius(const App& app) { return app.specialeffects5.HScroll6.Shown(); }
+
+// Where the brush works: in the view that shows the Parts. A view that leans counts as the front.
+std::optional<PickView> BrushViewAt(const App& app, double x, double y) {
+  const Form51& options = app.form51;
+  const double panX = app.form36.HScroll1.value(), panY = app.form36.VScroll1.value();
+  if (options.Option3.value()) return PickView{Projection::Top, panX, panY};
+  if (options.Option4.value()) return PickView{Projection::Oblique, panX, panY};
+  if (options.Option1.value()) return PickView{app.formulas.SubView(), panX, panY};
+  return PickViewAt(app, x, y);
+}
+
+DragAxes BrushAxesOf(Projection projection) {
+  return DragAxesOf(projection == Projection::Oblique ? Projection::Front : projection);
+}
 
 }  // namespace
 
@@ -96,6 +109,7 @@ void ViewMouse::Down(const MouseEvent& event) {
   Guarded([&] {
     const bool isTri = app_.form51.Option16.value();
     pickView_ = PickViewAt(app_, event.x, event.y);
+    brushView_ = BrushViewAt(app_, event.x, event.y);
     axes_ = isTri ? DragAxesOf(pickView_->projection) : DragAxes{};
     layer_.reset();
     DragActive = -1;
@@ -110,11 +124,11 @@ void ViewMouse::Down(const MouseEvent& event) {
 
 void ViewMouse::PressPick(const MouseEvent& event) {
   const bool on = event.button == MouseButton::Left;
+  cornerX_ = event.x;
+  cornerY_ = event.y;
   if (event.keys.shift) {
     MarkPoints(app_.model, CurrentPart(app_), PointRangeStart(app_), PointRangeEnd(app_), on);
   } else if (pickView_) {
-    cornerX_ = event.x;
-    cornerY_ = event.y;
     Pick(event);
     ShowPicked(event);
   }
@@ -183,7 +197,7 @@ void ViewMouse::ChooseLayer(const MouseEvent& event) {
   app_.form36.Label16.SetCaption(std::to_string(*layer_));
   app_.formulas.ShowPoint(*layer_);
   ScrollBar& elevation = app_.formulas.HScroll28;
-  const double third = ThirdCoordinate(app_.formulas.view.Plane(), app_.model.ProfilePts(*layer_, profile));
+  const double third = ThirdCoordinate(app_.formulas.Plane(), app_.model.ProfilePts(*layer_, profile));
   elevation.SetValue(elevation.Clamped(RoundHalfEven(third)));
 }
 
@@ -245,11 +259,11 @@ void ViewMouse::ShowPlace(const MouseEvent& event) {
   Form36& view = app_.form36;
   view.Label4.SetCaption(WholeText(double{event.x} - view.HScroll1.value()));
   view.Label5.SetCaption(WholeText(double{event.y} - view.VScroll1.value()));
-  if (app_.form51.Option1.value() && app_.form51.Check15.value()) ShowNextLine(event);
+  if (app_.form51.Option1.value()) ShowNextLine(event);
 }
 
-// From the last point drawn to the mouse, over the picture and with its length. Points that are moved have no
-// next one.
+// From the last point drawn to the mouse: its length always, the line over the picture while it is wanted.
+// Points that are moved have no next one.
 void ViewMouse::ShowNextLine(const MouseEvent& event) {
   const int profile = CurrentProfile(app_);
   const int count = app_.model.Profile(profile).count;
@@ -260,16 +274,16 @@ void ViewMouse::ShowNextLine(const MouseEvent& event) {
   const double dx = event.x - x, dy = event.y - y;
   app_.form36.Label13.SetCaption(RoundedForm(std::sqrt(dx * dx + dy * dy), kLengthDecimals));
   nextLine_.reset();
-  if (count > 0 && !MovesProfile(app_)) {
+  if (count > 0 && app_.form51.Check15.value() && !MovesProfile(app_)) {
     nextLine_ = {static_cast<float>(x), static_cast<float>(y), event.x, event.y, kNextLineColour};
   }
   ShowOverlay();
 }
 
 void ViewMouse::Brush(const MouseEvent& event) {
-  if (!onBrush || !pickView_) return;
-  const DragAxes plane = DragAxesOf(pickView_->projection);
-  onBrush({plane.across, plane.up, event.x - pickView_->panX, event.y - pickView_->panY, event});
+  if (!onBrush || !brushView_) return;
+  const DragAxes plane = BrushAxesOf(brushView_->projection);
+  onBrush({plane.across, plane.up, event.x - brushView_->panX, event.y - brushView_->panY, event});
 }
 
 // The circle follows the mouse; the rectangle grows with it while a button is held, and picks as it grows.

@@ -17,6 +17,9 @@ class App;
 // nearest picture of the tri view. Empty where points cannot be picked.
 std::optional<PickView> PickViewAt(const App& app, double x, double y);
 
+// A position as drags keep it between events: 16 bits, half to even, held at their limits.
+std::int16_t ToPosition(float position);
+
 // A touch of the brush: a place in the plane of two model axes. The third coordinate is the origin's.
 struct BrushTouch {
   Axis across = Axis::X, up = Axis::Y;
@@ -68,10 +71,10 @@ class ViewMouse {
   App& app_;
   std::int16_t DragActive = 0;  // -1 from the press to the letting go
   std::int16_t LastX = 0, LastY = 0;
-  DragAxes axes_;                     // of the picture that was pressed on
-  std::optional<PickView> pickView_;  // as it was at the press
-  float cornerX_ = 0, cornerY_ = 0;   // of the rectangle that is drawn
-  std::optional<int> layer_;          // that is moved
+  DragAxes axes_;                                 // of the picture that was pressed on
+  std::optional<PickView> pickView_, brushView_;  // as they were at the press
+  float cornerX_ = 0, cornerY_ = 0;               // of the rectangle that is drawn
+  std::optional<int> layer_;                      // that is moved
   std::optional<OverlayShape> nextLine_;
 };
 

@@ -69,5 +69,24 @@ TEST(ItemReader, Lines) {
   EXPECT_TRUE(reader.AtEnd());
 }
 
+TEST(ItemReader, AFaultTellsItsLine) {
+  ItemReader in("1 2\r\n\n3,x\r4");
+  for (int i = 0; i < 3; ++i) in.Number();
+  try {
+    in.Integer<int>();
+    FAIL();
+  } catch (const Fault& fault) {
+    EXPECT_STREQ(fault.what(), "bad number: \"x\", line 3");
+  }
+  ItemReader wide("1\r70000");
+  wide.Number();
+  EXPECT_THROW(
+      try { wide.Integer<std::int16_t>(); } catch (const Fault& fault) {
+        EXPECT_STREQ(fault.what(), "overflow: 70000, line 2");
+        throw;
+      },
+      Fault);
+}
+
 }  // namespace
 }  // namespace pelorium

@@ -105,13 +105,12 @@ TEST(Numbers, ShortestForm) {
 
 TEST(Numbers, ValTakesTheLongestLeadingNumber) {
   const std::pair<const char*, double> table[] = {
-      {"", 0},        {"   ", 0},         {"abc", 0},  {"-", 0},      {".", 0},    {"+.e1", 0},
-      {"nan", 0},     {"inf", 0},         {"0x10", 0}, {"12abc", 12}, {"\t 7", 7}, {"1 2", 1},
-      {"1,5", 1},     {"1e", 1},          {"1e+", 1},  {"1D3", 1000}, {".5", 0.5}, {"5.", 5},
-      {"1.2.3", 1.2}, {" -3.5e2x", -350}, {"+4", 4},   {"1e-400", 0},
+      {"", 0},        {"   ", 0},         {"abc", 0},  {"-", 0},      {".", 0},     {"+.e1", 0},
+      {"nan", 0},     {"inf", 0},         {"0x10", 0}, {"12abc", 12}, {"\t 7", 7},  {"1 2", 1},
+      {"1,5", 1},     {"1e", 1},          {"1e+", 1},  {"1D3", 1000}, {".5", 0.5},  {"5.", 5},
+      {"1.2.3", 1.2}, {" -3.5e2x", -350}, {"+4", 4},   {"1e-400", 0}, {"1e400", 0}, {"-1e999x", 0},
   };
   for (const auto& [text, value] : table) EXPECT_EQ(Val(text), value) << text;
-  EXPECT_TRUE(Raises(FaultKind::Overflow, [] { Val("1e400"); }));
 }
 
 TEST(Numbers, WholeNumber) {

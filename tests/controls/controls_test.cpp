@@ -91,16 +91,34 @@ TEST_F(Bench, LimitsMayStandTheOtherWayRound) {
 
 TEST_F(Bench, TypingIntoAPairMovesTheBarWithinItsLimits) {
   Pair(bar, box, 100);
-  box.Type("1.25mm");
-  EXPECT_EQ(bar.value(), 125);
-  EXPECT_EQ(box.text(), "1.25");
-  box.Type("9");
+  int moves = 0, texts = 0;
+  bar.onMovedByPerson = [&] { ++moves; };
+  box.onChange = [&] { ++texts; };
+  box.Type("1.256mm");  // stays as typed; the bar rounds
+  EXPECT_EQ(bar.value(), 126);
+  EXPECT_EQ(bar.Shown(), 1.256);
+  EXPECT_EQ(box.text(), "1.256mm");
+  box.Type("9");  // outside: the limit counts, and shows once the typing is over
   EXPECT_EQ(bar.value(), 400);
+  EXPECT_EQ(box.text(), "9");
+  EXPECT_EQ(box.Number(), 4);
+  const int textsTyped = texts;
+  box.FinishTyping();
   EXPECT_EQ(box.text(), "4");
+  EXPECT_EQ(texts, textsTyped);
   box.Type("none");
   EXPECT_EQ(bar.value(), 0);
-  EXPECT_EQ(box.text(), "0");
+  box.FinishTyping();
+  EXPECT_EQ(box.text(), "none");
   EXPECT_EQ(changes, 3);
+  box.Type("0.004");  // a finer number is another number, though the bar stands there already
+  EXPECT_EQ(changes, 4);
+  bar.SetValue(0);  // as the program sets it: the fraction goes, and nothing runs
+  EXPECT_EQ(changes, 4);
+  EXPECT_EQ(bar.Shown(), 0);
+  box.FinishTyping();
+  EXPECT_EQ(box.text(), "0");
+  EXPECT_EQ(moves, 4);
   box.SetText("2");  // as the program sets it: the bar stays
   EXPECT_EQ(bar.value(), 0);
 }

@@ -112,6 +112,7 @@ TEST_F(ProjectFile, SaveOpenSaveGivesTheSameBytes) {
   model.MaterialGroups(4).GroupName = "";
   model.Profile(2).genTurnY = 1.0 / 7;
   model.ProfilePts(20, 30).secMultY = 1e-20;
+  model.ProfilePts(20, 30).spareCount = 12;  // what another program wrote there
   const std::string text = Saved(model);
   ModelStore other;
   ReadProject(other, text);

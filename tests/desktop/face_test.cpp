@@ -1,10 +1,12 @@
 // What a person does with mouse and keyboard reaches the program, and what the program draws reaches the
 // screen.
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
@@ -61,7 +63,7 @@ TEST_F(SplashTest, AClickBringsTheFrame) {
   Settle();
   EXPECT_FALSE(IsShown("frmSplash"));
   EXPECT_TRUE(IsShown("Form51"));
-  EXPECT_EQ(frame().windowTitle().section(" - ", 0, 0).toStdString(), "Pelorium v2.14");
+  EXPECT_EQ(frame().windowTitle().toStdString(), "Pelorium v2.14");
   const QWidget& picture = Shown<QWidget>("Form36.Picture1");
   EXPECT_EQ(NewJournalLines(),
             (Lines{"press frmSplash.Picture1", "resize Form36.Picture1 " + std::to_string(picture.width()) +
@@ -129,7 +131,7 @@ TEST_F(FaceTest, ADragMovesThePartAndTheScreenShowsTheSamePixels) {
   EXPECT_EQ(app().model.Points(0, 1).X, before + 1 + 2 + 2);
   EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture), 0);
 
-  QTest::mouseClick(&Shown<QWidget>("Form36.Command16"), Qt::LeftButton);
+  QTest::mouseClick(&Shown<QWidget>("Form36.Command33"), Qt::LeftButton);
   Settle();
   EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture), 0);
   EXPECT_EQ(box.picture.PixelAt(box.picture.PixelWidth() - 1, 0), 0) << "black outside the shaded square";
@@ -220,6 +222,49 @@ TEST_F(FaceTest, TheRightButtonPressesAButtonToo) {
   EXPECT_DOUBLE_EQ(picture.ScaleWidth(), before * 1.25);
   QTest::mouseClick(&zoom, Qt::LeftButton, Qt::ShiftModifier);
   EXPECT_EQ(NewJournalLines(), (Lines{"press Form36.Command12 right", "press Form36.Command12 shift"}));
+}
+
+TEST_F(FaceTest, AButtonMayActWhenTheMouseGoesDown) {
+  app().FindWindow("Formulas3frm")->Show();
+  Settle();
+  auto& move = Shown<QPushButton>("Formulas3frm.Command1");
+  QTest::mousePress(&move, Qt::RightButton);
+  EXPECT_EQ(NewJournalLines(), (Lines{"press Formulas3frm.Command1 right"}));
+  QTest::mouseRelease(&move, Qt::RightButton);
+  QTest::mousePress(&move, Qt::LeftButton);
+  QTest::mouseRelease(&move, Qt::LeftButton, {}, QPoint(-50, -50));
+  QTest::keyClick(&move, Qt::Key_Space);
+  QTest::keyClick(&move, Qt::Key_Return);
+  EXPECT_EQ(NewJournalLines(), (Lines(3, "press Formulas3frm.Command1")));
+}
+
+TEST_F(FaceTest, NoticesStandInTheStatusLine) {
+  auto& line = *frame().findChild<QLabel*>("notice");
+  app().faults.Note("Form31.Command4", Fault(FaultKind::FileError, "gone"));
+  EXPECT_EQ(line.text().toStdString(), "Form31.Command4: file error: gone");
+  QTest::mouseClick(&Shown<QPushButton>("Form51.Command1"), Qt::LeftButton);
+  EXPECT_TRUE(line.text().isEmpty());
+  app().notices.Give("saved a.prj, 3 KB", NoticeKind::Result);
+  QTest::mouseClick(&Shown<QPushButton>("Form51.Command1"), Qt::LeftButton);
+  EXPECT_EQ(line.text().toStdString(), "saved a.prj, 3 KB");
+}
+
+// A number that its bar cannot take gives way when the box loses the focus.
+TEST_F(FaceTest, ATypedNumberOutOfRangeShowsItsLimitLater) {
+  auto& widget = Shown<QLineEdit>("Form51.Text6");
+  widget.setFocus();
+  widget.selectAll();
+  QTest::keyClicks(&widget, "5000");
+  QTest::keyClick(&widget, Qt::Key_Return);
+  EXPECT_EQ(widget.text().toStdString(), "5000");
+  Shown<QPushButton>("Form51.Command1").setFocus();
+  Settle();
+  EXPECT_EQ(widget.text().toStdString(), "1000");
+}
+
+TEST_F(FaceTest, CaptionsStandToTheLetter) {
+  EXPECT_EQ(frame().menuBar()->actions().at(0)->text().toStdString(), "Files |");
+  EXPECT_EQ(frame().menuBar()->actions().at(7)->text().toStdString(), "Image  |");
 }
 
 TEST_F(FaceTest, MarksFollowTheProgram) {

@@ -41,16 +41,16 @@ TEST_F(FreeFaces, Fans) {
   settings.radiatingStart = 7;
   settings.runFaces = 1;
   EXPECT_EQ(Made(AppendRadiating), (Corners{{7, 8, 9}}));
-  settings.bodySections = 3, settings.bodyWidth = 4, settings.bodyRows = 5;
+  settings.body = {4, 5}, settings.capFaces = 2;
   EXPECT_EQ(Made(AppendBottomCap), (Corners{{1, 2, 3}, {1, 3, 4}}));
   EXPECT_EQ(Made(AppendTopCap), (Corners{{17, 18, 19}, {17, 19, 20}}));  // row 4 starts at 4 * 4 + 1
 }
 
 TEST_F(FreeFaces, SideCapsStayOnTheLastRow) {
-  settings.bodyWidth = 10, settings.bodyRows = 4;
+  settings.body = {10, 4};
   EXPECT_EQ(Made(AppendStartSideCap), (Corners{{1, 11, 21}, {1, 21, 31}, {1, 31, 31}, {1, 31, 31}}));
   EXPECT_EQ(Made(AppendEndSideCap), (Corners{{10, 20, 30}, {10, 30, 40}, {10, 40, 40}, {10, 40, 40}}));
-  settings.bodyRows = 0;
+  settings.body.rows = 0;
   EXPECT_TRUE(Made(AppendStartSideCap).empty());
 }
 

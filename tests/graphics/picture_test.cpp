@@ -115,6 +115,18 @@ TEST(Picture, ClippedLinesAreTheUnclippedOnes) {
   }
 }
 
+TEST(Picture, AWideLineSetsItsEndToo) {
+  Picture picture(40, 9);
+  picture.drawWidth = 5;
+  picture.Line(10, 4, 25, 4, kInk);
+  for (const auto& [x, isInked] : {std::pair{7, false}, {8, true}, {27, true}, {28, false}}) {
+    EXPECT_EQ(picture.PixelAt(x, 4) == static_cast<int>(kInk), isInked) << x;
+  }
+  picture.Clear();
+  picture.Line(10, 4, 10, 4, kInk);  // no way to go: a dot
+  EXPECT_EQ(InkedPixels(picture), 21);
+}
+
 TEST(Picture, CoordinatesBeyondAllBounds) {
   Picture picture(8, 4);
   picture.Line(-1e30F, 1, 1e30F, 1, kInk);

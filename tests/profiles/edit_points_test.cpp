@@ -101,27 +101,27 @@ class Fetch : public EditPoints {
 };
 
 TEST_F(Fetch, LayersBecomeProfilesWithTheirPenOnTheLastPoint) {
-  FetchLayers(model, rings, 2, 4, 35);
+  GetLayers(model, rings, 2, 4, 35);
   EXPECT_EQ(At(0, 35).X, 7);
   EXPECT_EQ(At(2, 35).X, 9);
   EXPECT_EQ(At(3, 35).X, 9);
   EXPECT_EQ(model.Profile(35).count, 3);
   EXPECT_EQ(At(2, 36).X, 12);
-  FetchLayer(model, rings, 4, 1);  // behind the last point
+  GetLayer(model, rings, 4, 1);  // behind the last point
   EXPECT_EQ(model.Profile(1).count, 0);
-  FetchLayer(model, {0, 3, 5}, 3, 1);
+  GetLayer(model, {0, 3, 5}, 3, 1);
   EXPECT_EQ(model.Profile(1).count, 3);
 }
 
 TEST_F(Fetch, SidesRepeatTheirLastPointForTheMissingRing) {
-  FetchSides(model, rings, 2, 3, 5);
+  GetSides(model, rings, 2, 3, 5);
   EXPECT_EQ(At(0, 5).X, 2);
   EXPECT_EQ(At(3, 5).X, 11);
   EXPECT_EQ(At(4, 5).X, 11);
   EXPECT_EQ(model.Profile(5).count, 5);
   EXPECT_EQ(At(3, 6).X, 12);
   model.Part(0).count = 36;
-  FetchSides(model, rings, 1, 1, 7);
+  GetSides(model, rings, 1, 1, 7);
   EXPECT_EQ(At(36, 7).X, 10);
   EXPECT_EQ(model.Profile(7).count, 36);
 }

@@ -30,7 +30,7 @@ void ExpectAllFieldsApart(std::size_t members) {
 
 TEST(RecordFields, EveryFieldHasItsOwnMember) {
   ExpectAllFieldsApart<PointRec>(6);
-  ExpectAllFieldsApart<ProfilePointRec>(27);
+  ExpectAllFieldsApart<ProfilePointRec>(29);
   ExpectAllFieldsApart<ProfileHeader>(26);
   ExpectAllFieldsApart<FaceRec>(17);
   ExpectAllFieldsApart<PartHeader>(9);

@@ -147,6 +147,7 @@ TEST_F(Shaded, ProfilesAndOtherEdges) {
                             "Begin Points",
                             "Color3f 0.4 0.4 0.4",
                             "Vertex3f 5 0 0",
+                            "Vertex3f 0 0 5",
                             "End",  //
                             "Begin Lines",
                             "Color3f 0.7 0.7 0.7",
@@ -157,6 +158,7 @@ TEST_F(Shaded, ProfilesAndOtherEdges) {
                             "Begin Points",
                             "Color3f 0.7 0 0",
                             "Vertex3f 2 0 0",
+                            "Vertex3f 0 0 2",
                             "End"}));
 }
 

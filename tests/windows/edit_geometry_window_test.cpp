@@ -267,6 +267,33 @@ TEST_F(EditGeometryWindow, ThePartAndItsWireFollow) {
   EXPECT_EQ(window.Text1.text(), "0");
   window.Check1.SetValue(false);
   EXPECT_FALSE(app.form51.Check7.value());
+  app.form51.Check7.SetValue(true);
+  EXPECT_TRUE(window.Check1.value());
+}
+
+TEST_F(EditGeometryWindow, WithoutEditObjADragOnlyShowsItsWay) {
+  window.Command4.Press();
+  window.Check3.SetValue(false);
+  On("Picture1", UserAction::MouseDown, 100, 50, MouseButton::Left);
+  On("Picture1", UserAction::MouseMove, 130, 90, MouseButton::Left);
+  On("Picture1", UserAction::MouseMove, 120, 80, MouseButton::Left);
+  const auto& overlay = window.Picture1.picture.overlay;
+  ASSERT_EQ(overlay.size(), 1u);
+  EXPECT_EQ(overlay[0].x0, 100);
+  EXPECT_EQ(overlay[0].y1, 80);
+  EXPECT_EQ(Place(2), (Vec3{10, 0, 0}));
+  On("Picture1", UserAction::MouseUp, 120, 80, MouseButton::Left);
+  EXPECT_TRUE(overlay.empty());
+}
+
+TEST_F(EditGeometryWindow, ThePickAreaHasTheViewsShape) {
+  app.Deliver({"Form36", "Picture1", UserAction::Resize, 0, {}, {}, 0, 0, 1000, 500});
+  PressItem("special5");
+  EXPECT_EQ(window.Picture5.picture.PixelWidth(), 241);
+  EXPECT_EQ(window.Picture5.picture.PixelHeight(), 120);
+  EXPECT_EQ(window.Picture1.picture.PixelHeight(), 159);
+  window.Option10.SetValue(true);
+  EXPECT_EQ(window.Picture1.picture.PixelHeight(), 120);
 }
 
 TEST_F(EditGeometryWindow, TheOpenWindowShowsTheViewInItsPickArea) {

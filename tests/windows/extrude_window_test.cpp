@@ -41,6 +41,18 @@ TEST_F(ExtrudeWindow, FirstPressMakesOneRingFewerThanTheNext) {
   EXPECT_EQ(app.model.Faces(0, 1).c2X, 110);  // the corner copies are fresh
 }
 
+TEST_F(ExtrudeWindow, TwoBarsOfOneSettingShowIt) {
+  for (const auto& [moved, other] : {std::pair{"HScroll59", "HScroll57"}, {"HScroll57", "HScroll59"}}) {
+    Bar(moved).Drag(Bar(moved).value() + 5);
+    EXPECT_EQ(Bar(other).value(), Bar(moved).value());
+  }
+  EXPECT_EQ(Text("Text59"), "10");
+  Bar("HScroll4").Drag(3);  // the layer's selector once more
+  EXPECT_EQ(Bar("HScroll16").value(), 3);
+  Bar("HScroll36").Drag(2);
+  EXPECT_EQ(app.form51.HScroll3.value(), 2);
+}
+
 TEST_F(ExtrudeWindow, AShortProfileIsRaisedToFourPoints) {
   Draw(2);
   app.form55.Command30.Press();

@@ -4,6 +4,7 @@
 #include "windows/form51_view_options.h"
 #include "windows/form5_precise_edit.h"
 #include "windows/formulas2frm_profile_formulas.h"
+#include "windows/formulas3frm_edit_profile_ranges.h"
 #include "windows/formulas_edit_profile.h"
 #include "windows/refresh_views.h"
 
@@ -125,6 +126,33 @@ TEST_F(EditProfileWindow, OptionsOfAllProfileWindowsGoTogether) {
   EXPECT_TRUE(window.view.Option6.value());
   EXPECT_TRUE(app.form51.Option1.value());
   EXPECT_EQ(app.form36.Label54.caption(), " PROFILE VIEW--Side ");
+  app.formulas3frm.view.Option8.SetValue(true);  // shaded in all; the profile view comes back as it was
+  EXPECT_TRUE(window.view.Option8.value());
+  EXPECT_TRUE(app.form51.Option11.value());
+  app.form51.Option1.SetValue(true);
+  EXPECT_TRUE(app.formulas2frm.view.Option6.value());
+  EXPECT_EQ(app.form36.Label54.caption(), " PROFILE VIEW--Side ");
+}
+
+TEST_F(EditProfileWindow, AnotherProfileShowsTheSamePoint) {
+  app.model.ProfilePts(2, 4).X = 77;
+  app.model.Profile(4).count = 9;
+  window.HScroll27.SetValue(2);
+  window.HScroll25.Drag(4);
+  EXPECT_EQ(window.HScroll27.value(), 2);
+  EXPECT_EQ(window.Text35.text(), "77");
+  EXPECT_EQ(app.form51.Label17.caption(), "9");
+}
+
+// What would run away to infinity is a fault, and the profiles stay as they were.
+TEST_F(EditProfileWindow, ResultsAreFinite) {
+  app.model.ProfilePts(1, 0).X = 1e300;
+  app.form5.Text5.SetText("-1e300");
+  app.formulas3frm.Text20.SetText("1e200");
+  app.Deliver({"Formulas3frm", "Command35", UserAction::Press});
+  EXPECT_EQ(Point(0).X, 10);
+  EXPECT_EQ(Point(1).X, 1e300);
+  EXPECT_EQ(app.faults.TakeAll(), (std::vector<std::string>{"Formulas3frm.Command35: overflow: inf"}));
 }
 
 }  // namespace

@@ -92,6 +92,16 @@ TEST_F(FreeFaceWindow, ChoosingAFaceShowsItWithoutWriting) {
   EXPECT_EQ(Corners(5), (Face{7, 8, 30000}));
 }
 
+// Commit would store what the boxes still showed of the Part before.
+TEST_F(FreeFaceWindow, TheRoutedFaceShowsWhatAPartChangeBrought) {
+  app.model.Faces(1, 1).corner2pt = 9;
+  app.form51.HScroll4.SetValue(1);
+  EXPECT_EQ(window.Text12.text(), "9");
+  app.form51.HScroll4.SetValue(0);
+  MakeCup();
+  EXPECT_EQ(window.Text13.text(), "38");
+}
+
 TEST_F(FreeFaceWindow, CornersAreStoredOneByOne) {
   MakeCup();
   window.HScroll12.Drag(3);

@@ -44,17 +44,26 @@ TEST_F(PreciseEdit, MovesByTheTextInSteps) {
   Lay(3, 3);
   app.model.Faces(0, 1).corner2pt = 3;
   app.model.Part(0).maxfaces = 1;
-  window.Text41.Type("0.25");
+  window.Text41.Type("1.25");
+  EXPECT_EQ(window.HScroll10.value(), 1);
   window.HScroll9.SetValue(2);
   for (const char* name : {"Command53", "Command55", "Command55", "Command31"}) Press(name);
-  EXPECT_EQ(At(3), (Vec3{15.25, 4.5, 13.25}));
+  EXPECT_EQ(At(3), (Vec3{16.25, 6.5, 14.25}));
   EXPECT_EQ(At(2), (Vec3{15, 4, 13}));
-  EXPECT_EQ(app.model.Faces(0, 1).c2X, 15.25);
+  EXPECT_EQ(app.model.Faces(0, 1).c2X, 16.25);
   for (const char* name : {"Command53", "Command55", "Command55", "Command31"}) Press(name, kRight);
   EXPECT_EQ(At(1), (Vec3{15, 4, 13}));
   window.HScroll25.SetValue(0);
   Press("Command53");
   EXPECT_EQ(At(1), (Vec3{15, 4, 13}));
+}
+
+TEST_F(PreciseEdit, SetLeavesARingASection) {
+  for (const auto& [width, sections] : {std::pair{0, 1}, {1, 1}, {2, 1}, {5, 4}}) {
+    window.HScroll5.SetValue(width);
+    Press("Command19");
+    EXPECT_EQ(app.model.Part(0).Sections, sections) << width;
+  }
 }
 
 TEST_F(PreciseEdit, TurnsAboutTheOriginEachInItsSense) {

@@ -4,6 +4,7 @@
 #include "app_fixture.h"
 #include "windows/form36_view.h"
 #include "windows/form51_view_options.h"
+#include "windows/form55_extrude_profile.h"
 #include "windows/form5_precise_edit.h"
 #include "windows/revolveprof_revolve_profile.h"
 #include "windows/shared_parameters.h"
@@ -115,6 +116,20 @@ TEST_F(RevolveWindow, GeneralFieldsBelongToTheProfile) {
   EXPECT_EQ(app.model.Profile(2).genMultX, 1.234);  // shown, not written back
   app.revolveprof.HScroll37.Drag(150);
   EXPECT_EQ(app.model.Profile(2).genMultX, 1.5);
+  app.form55.HScroll24.Drag(20);  // writes 19; the bar must not fall back to it
+  app.revolveprof.HScroll31.Drag(7);
+  EXPECT_EQ(app.form55.HScroll24.value(), 20);
+  EXPECT_EQ(dynamic_cast<ScrollBar&>(*app.form55.Find("HScroll37")).value(), 7);
+}
+
+// What an extrude set is no limit of the person's.
+TEST_F(RevolveWindow, LayersLimitOfAnExtrudeIsNotKept) {
+  MakeCup();
+  app.revolveprof.HScroll22.Drag(2);
+  app.form55.HScroll24.Drag(3);
+  app.form55.Command30.Press();
+  app.revolveprof.Command15.Press();
+  EXPECT_EQ(app.revolveprof.HScroll22.value(), 4);
 }
 
 TEST_F(RevolveWindow, ProfilesFromTheResultLeaveTheSource) {

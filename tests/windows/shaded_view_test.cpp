@@ -77,11 +77,11 @@ class ShadedWindow : public AppTest {
 TEST_F(ShadedWindow, EachEventRendersOnceAndOnlyWhenLookedAt) {
   EXPECT_EQ(app.shadedPose.RotX, 245);
   EXPECT_EQ(log.opened, 0);
-  const int context = app.shadedView->renderContext();
+  const int context = app.shadedView->RenderContext();
   app.form51.Command2.Press();
   EXPECT_TRUE(app.form51.Option11.value());
   EXPECT_EQ(app.form36.Label54.caption(), " SHADED VIEW ");
-  EXPECT_EQ(app.shadedView->renderContext(), context + 1);
+  EXPECT_EQ(app.shadedView->RenderContext(), context + 1);
   app.form51.HScroll13.SetValue(20);
   app.form51.HScroll1.SetValue(300);
   EXPECT_EQ(log.rendered, 0);
@@ -100,7 +100,7 @@ TEST_F(ShadedWindow, EachEventRendersOnceAndOnlyWhenLookedAt) {
   EXPECT_EQ(log.rendered, 1);
   app.form51.Option7.SetValue(true);
   EXPECT_TRUE(app.form51.Option11.value());
-  EXPECT_EQ(app.shadedView->renderContext(), context + 2);
+  EXPECT_EQ(app.shadedView->RenderContext(), context + 2);
   EXPECT_EQ(ViewPixel(), kDrawn);
   app.form51.Option1.SetValue(true);
   app.formulas.view.Option8.Press({});
@@ -139,7 +139,7 @@ TEST_F(ShadedWindow, FaultIsNotedAndTheRestStands) {
 }
 
 TEST_F(ShadedWindow, DragsOverThePreviewTurnAndMove) {
-  const int context = app.shadedView->renderContext();
+  const int context = app.shadedView->RenderContext();
   DragPreview(5.5F, 3, {MouseButton::Left, {}});
   EXPECT_EQ(app.shadedPose.RotX, 248);
   EXPECT_EQ(app.shadedPose.RotY, 0);
@@ -153,7 +153,7 @@ TEST_F(ShadedWindow, DragsOverThePreviewTurnAndMove) {
   DragPreview(9, -0.5F, {MouseButton::Right, {.shift = true}});
   EXPECT_EQ(app.shadedPose.ShadeMoveX, -2);
   EXPECT_EQ(app.shadedPose.ShadeMoveZ, 1);
-  EXPECT_EQ(app.shadedView->renderContext(), context + 4);
+  EXPECT_EQ(app.shadedView->RenderContext(), context + 4);
 
   EXPECT_EQ(PreviewPixel(), kDrawn);
   EXPECT_TRUE(HasCall("Viewport 0 0 120 120"));

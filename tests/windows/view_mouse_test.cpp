@@ -153,6 +153,41 @@ TEST_F(ViewMouseTest, TheRectanglePicksWhileItGrows) {
   EXPECT_TRUE(app.form36.Picture1.picture.overlay.empty());
 }
 
+// With Shift the press switches the range; letting Shift go, the rectangle reaches from that press.
+TEST_F(ViewMouseTest, AShiftPressSetsTheCornerToo) {
+  app.form36.Option10.Press({});
+  app.specialeffects5.Option3.SetValue(true);
+  const auto at = [this](UserAction action, float x, float y, bool shift) {
+    app.Deliver({"Form36", "Picture1", action, 0, {}, {MouseButton::Left, {shift, false, false}}, x, y});
+  };
+  at(UserAction::MouseDown, 300, -300, true);
+  SwitchAll(0);
+  at(UserAction::MouseMove, 330, -320, false);
+  EXPECT_EQ(Marks(), "0011");
+  EXPECT_EQ(app.form36.Shape5.left, 300);
+}
+
+TEST_F(ViewMouseTest, TheLengthShowsWithoutItsLine) {
+  app.form51.Option1.SetValue(true);
+  app.form51.Check15.SetValue(false);
+  app.model.Profile(0).count = 1;
+  app.Deliver({"Form36", "Picture1", UserAction::MouseMove, 0, {}, {}, 318 + 3, -318 + 4});
+  EXPECT_EQ(app.form36.Label13.caption(), "5");
+  EXPECT_TRUE(app.form36.Picture1.picture.overlay.empty());
+}
+
+TEST_F(ViewMouseTest, TheBrushHasAPlaneInEveryView) {
+  std::vector<std::pair<Axis, Axis>> planes;
+  app.form36.mouse.onBrush = [&](const BrushTouch& touch) { planes.push_back({touch.across, touch.up}); };
+  for (OptionButton* view : {&app.form51.Option5, &app.form51.Option3, &app.form51.Option2,
+                             &app.form51.Option6, &app.form51.Option4}) {
+    view->SetValue(true);
+    Drag(100, -100, 110, -110);
+  }
+  using enum Axis;
+  EXPECT_EQ(planes, (std::vector<std::pair<Axis, Axis>>{{X, Y}, {X, Y}, {X, Z}, {Z, Y}, {X, Z}}));
+}
+
 TEST_F(ViewMouseTest, APlainClickTellsTheNearestPoint) {
   app.specialeffects5.Option3.SetValue(true);
   ClickAt(318 + 3, -318 + 4);

@@ -165,7 +165,7 @@ TEST_F(ViewWindow, AFaultWhileDrawingEndsTheDrawingOnly) {
   RefreshViews(app);
   const auto faults = app.faults.TakeAll();
   ASSERT_EQ(faults.size(), 1U);
-  EXPECT_EQ(faults[0], "RefreshViews: subscript out of range: group 99");
+  EXPECT_EQ(faults[0], "DrawWire: subscript out of range: group 99");
   app.model.Faces(0, 3).group = 0;
   RefreshViews(app);
   EXPECT_TRUE(app.faults.TakeAll().empty());
