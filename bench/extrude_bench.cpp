@@ -5,8 +5,10 @@
 
 #include "geometry/extrude.h"
 #include "program.h"
-#include "windows/form51_view_options.h"
-#include "windows/form55_extrude_profile.h"
+#include "windows/geometry/form55_extrude_profile.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -54,9 +56,9 @@ void AutoExtrudeEvent(benchmark::State& state) {
   Program program;
   App& app = program.app;
   PrepareProfile(app.model, 0);
-  app.form51.ShowProfile();
-  app.form51.Option4.SetValue(true);
-  app.form55.Check1.SetValue(true);
+  app.view->form51.ShowProfile();
+  app.view->form51.Option4.SetValue(true);
+  app.geometry->form55.Check1.SetValue(true);
   MeasureDrags(state, app, "Form55", "HScroll23", 10, 11);
   state.counters["faces"] = app.model.Part(0).maxfaces;
 }

@@ -6,8 +6,9 @@
 #include <string>
 
 #include "platform/headless_platform.h"
-#include "windows/app.h"
-#include "windows/form36_view.h"
+#include "windows/shell/app_shell.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 
@@ -27,7 +28,7 @@ inline void MeasureDrags(benchmark::State& state, App& app, const std::string& w
   for (auto _ : state) {
     event.value = event.value == first ? second : first;
     app.Deliver(event);
-    benchmark::DoNotOptimize(app.form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(app.view->form36.Picture1.picture.Pixels().data());
   }
 }
 

@@ -7,21 +7,23 @@
 #include "full_model.h"
 #include "program.h"
 #include "views/draw_views.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/refresh_views.h"
-#include "windows/revolveprof_revolve_profile.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/geometry/revolveprof_revolve_profile.h"
+#include "windows/shell/hooks.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
 
 void ShowAll(App& app) {
   FillModel(app.model);
-  app.form51.Option4.SetValue(true);
-  app.form51.Check7.SetValue(true);
-  app.form51.Check9.SetValue(true);
-  app.form51.Check10.SetValue(true);
-  app.form5.HScroll25.SetValueWidening(kMaxPoints);
+  app.view->form51.Option4.SetValue(true);
+  app.view->form51.Check7.SetValue(true);
+  app.view->form51.Check9.SetValue(true);
+  app.view->form51.Check10.SetValue(true);
+  app.view->form5.HScroll25.SetValueWidening(kMaxPoints);
 }
 
 // Controls to pixels.
@@ -30,7 +32,7 @@ void RefreshFullTables(benchmark::State& state) {
   ShowAll(program.app);
   for (auto _ : state) {
     RefreshViews(program.app);
-    benchmark::DoNotOptimize(program.app.form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(program.app.view->form36.Picture1.picture.Pixels().data());
   }
 }
 BENCHMARK(RefreshFullTables)->Unit(benchmark::kMillisecond);
@@ -96,8 +98,8 @@ void AutoRevolveEvent(benchmark::State& state) {
     point.X = 100 + 3.5 * (layer % 7);
     point.Z = 8 * layer - 150;
   }
-  app.form51.Option4.SetValue(true);
-  app.revolveprof.Option2.SetValue(true);
+  app.view->form51.Option4.SetValue(true);
+  app.geometry->revolveprof.Option2.SetValue(true);
   MeasureDrags(state, app, "revolveprof", "HScroll8", 5, 6);
 }
 BENCHMARK(AutoRevolveEvent)->Unit(benchmark::kMillisecond);

@@ -6,9 +6,10 @@
 #include "graphics/gl_recorder.h"
 #include "program.h"
 #include "views/draw_shaded.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/refresh_views.h"
+#include "windows/shell/hooks.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -18,9 +19,9 @@ enum Shown { kFacesOnly, kFacesAndEdges };
 // Faces and grid, and the edges of all faces if asked for; no points.
 void ShowFull(App& app, bool withEdges) {
   FillModel(app.model);
-  app.form51.Check10.SetValue(false);
-  app.form51.Check21.SetValue(withEdges);
-  app.form51.Check13.SetValue(withEdges);
+  app.view->form51.Check10.SetValue(false);
+  app.view->form51.Check21.SetValue(withEdges);
+  app.view->form51.Check13.SetValue(withEdges);
 }
 
 // One mouse event over the view, to its pixels.
@@ -28,7 +29,7 @@ void ShadedDragEvent(benchmark::State& state) {
   Program program;
   App& app = program.app;
   ShowFull(app, state.range(0) == kFacesAndEdges);
-  app.form51.Command2.Press();
+  app.view->form51.Command2.Press();
   if (!program.platform.TakeMessages().empty()) return state.SkipWithError("this machine has no OpenGL");
   UserEvent event{"Form36", "Picture1", UserAction::MouseDown};
   app.Deliver(event);
@@ -36,7 +37,7 @@ void ShadedDragEvent(benchmark::State& state) {
   for (auto _ : state) {
     event.x = event.x == 0 ? 3 : 0;
     app.Deliver(event);
-    benchmark::DoNotOptimize(app.form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(app.view->form36.Picture1.picture.Pixels().data());
   }
 }
 BENCHMARK(ShadedDragEvent)
@@ -97,10 +98,10 @@ BENCHMARK(ShadedShare)
 void WireOfTheSame(benchmark::State& state) {
   Program program;
   ShowFull(program.app, false);
-  program.app.form51.Option4.SetValue(true);
+  program.app.view->form51.Option4.SetValue(true);
   for (auto _ : state) {
     RefreshViews(program.app);
-    benchmark::DoNotOptimize(program.app.form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(program.app.view->form36.Picture1.picture.Pixels().data());
   }
 }
 BENCHMARK(WireOfTheSame)->Unit(benchmark::kMillisecond)->UseRealTime();

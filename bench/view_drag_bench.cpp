@@ -1,8 +1,9 @@
 // Drags over the view at full tables: one mouse event, from the door to the pixels of the view.
 #include "full_model.h"
 #include "program.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -13,8 +14,8 @@ void SendMouse(App& app, UserAction action, float x, float y, MouseButton button
 
 void ShowFullPart(App& app) {
   FillModel(app.model);
-  app.form5.HScroll25.SetValueWidening(kMaxPoints);
-  app.form51.Option4.SetValue(true);
+  app.view->form5.HScroll25.SetValueWidening(kMaxPoints);
+  app.view->form51.Option4.SetValue(true);
 }
 
 // 23000 chosen points of a full Part beside another full one, in the 3D view.
@@ -22,13 +23,13 @@ void MeasureMode(benchmark::State& state, OptionButton Form36::*mode, MouseButto
   Program program;
   App& app = program.app;
   ShowFullPart(app);
-  (app.form36.*mode).SetValue(true);
+  (app.view->form36.*mode).SetValue(true);
   SendMouse(app, UserAction::MouseDown, 400, -300, button);
   float way = 0;
   for (auto _ : state) {
     way = way == 0 ? 10.0F : 0.0F;
     SendMouse(app, UserAction::MouseMove, 400 + way, -300 - way, button);
-    benchmark::DoNotOptimize(app.form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(app.view->form36.Picture1.picture.Pixels().data());
   }
 }
 
@@ -42,8 +43,8 @@ void Redraw(benchmark::State& state) {
   App& app = program.app;
   ShowFullPart(app);
   for (auto _ : state) {
-    app.form51.Command1.Press();
-    benchmark::DoNotOptimize(app.form36.Picture1.picture.Pixels().data());
+    app.view->form51.Command1.Press();
+    benchmark::DoNotOptimize(app.view->form36.Picture1.picture.Pixels().data());
   }
 }
 

@@ -5,7 +5,7 @@
 
 #include "controls/window.h"
 #include "desktop/journal.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

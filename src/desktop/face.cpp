@@ -9,7 +9,7 @@
 
 #include "desktop/picture_widget.h"
 #include "desktop/qt_text.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

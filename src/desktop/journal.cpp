@@ -7,7 +7,7 @@
 
 #include "controls/user_event.h"
 #include "controls/window.h"
-#include "windows/event_text.h"
+#include "windows/shell/event_text.h"
 
 namespace pelorium {
 

@@ -8,7 +8,7 @@
 
 #include "controls/buttons.h"
 #include "controls/window.h"
-#include "windows/notices.h"
+#include "windows/shell/notices.h"
 
 class QAction;
 class QLabel;

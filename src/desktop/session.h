@@ -7,7 +7,7 @@
 #include "desktop/face.h"
 #include "desktop/journal.h"
 #include "desktop/qt_platform.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

@@ -7,7 +7,7 @@
 #include "controls/scroll_bar.h"
 #include "core/model_store.h"
 #include "script/parser.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

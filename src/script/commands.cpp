@@ -12,7 +12,7 @@
 #include "script/events.h"
 #include "script/places.h"
 #include "script/script_runner.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

@@ -8,7 +8,7 @@
 #include "base/numbers.h"
 #include "controls/lists.h"
 #include "script/places.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

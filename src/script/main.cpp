@@ -5,7 +5,7 @@
 #include "platform/working_folder.h"
 #include "script/command_line.h"
 #include "script/script_runner.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 int main(int argc, char** argv) {
   using namespace pelorium;

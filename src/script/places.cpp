@@ -8,7 +8,7 @@
 #include "controls/properties.h"
 #include "script/parser.h"
 #include "script/table_places.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

@@ -7,7 +7,7 @@
 #include "platform/headless_platform.h"
 #include "script/commands.h"
 #include "script/places.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

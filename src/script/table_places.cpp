@@ -9,7 +9,7 @@
 #include "base/numbers.h"
 #include "core/record_fields.h"
 #include "script/parser.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "windows/event_text.h"
+#include "windows/shell/event_text.h"
 
 namespace pelorium {
 namespace {

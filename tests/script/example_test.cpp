@@ -12,7 +12,7 @@
 #include "platform/picture_files.h"
 #include "script/script_runner.h"
 #include "support/harness.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 namespace {

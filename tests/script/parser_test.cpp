@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "base/fault.h"
-#include "windows/event_text.h"
+#include "windows/shell/event_text.h"
 
 namespace pelorium {
 namespace {

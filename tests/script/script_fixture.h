@@ -15,7 +15,7 @@
 #include "controls/text_box.h"
 #include "platform/headless_platform.h"
 #include "script/script_runner.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

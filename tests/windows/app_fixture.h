@@ -9,7 +9,7 @@
 
 #include "platform/headless_platform.h"
 #include "support/harness.h"
-#include "windows/app.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 

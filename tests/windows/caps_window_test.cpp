@@ -1,9 +1,12 @@
 // Caps on bodies whose rings or rows were cut by hand.
 #include "app_fixture.h"
-#include "windows/form31_project_files.h"
-#include "windows/form55_extrude_profile.h"
-#include "windows/freeface_free_faces.h"
-#include "windows/revolveprof_revolve_profile.h"
+#include "windows/facetools/facetools_windows.h"
+#include "windows/facetools/freeface_free_faces.h"
+#include "windows/frame/form31_project_files.h"
+#include "windows/frame/frame_windows.h"
+#include "windows/geometry/form55_extrude_profile.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/geometry/revolveprof_revolve_profile.h"
 
 namespace pelorium {
 namespace {
@@ -28,8 +31,8 @@ class Caps : public AppTest {
     MakeCup();
   }
 
-  RevolveProf& revolve = app.revolveprof;
-  FreeFace& faces = app.freeface;
+  RevolveProf& revolve = app.geometry->revolveprof;
+  FreeFace& faces = app.facetools->freeface;
 };
 
 TEST_F(Caps, OfARevolveCloseTheRingsThatWereLaid) {
@@ -70,9 +73,9 @@ TEST_F(Caps, ByHandForgetTheBodyOnceItMayBeAnother) {
   faces.Text18.Type("1");
   MakeCutCup();
   platform.QueueAnswer("a.prj");
-  app.form31.Command14.Press();
+  app.frame->form31.Command14.Press();
   platform.QueueAnswer("a.prj");
-  app.form31.Command15.Press();
+  app.frame->form31.Command15.Press();
   EXPECT_FALSE(app.model.Part(0).grid.has_value());
 }
 
@@ -80,11 +83,11 @@ TEST_F(Caps, OfAnExtrudeThatLaysNothing) {
   for (int i = 0; i < 5; ++i) ClickAt(static_cast<float>(418 + 10 * i), -318);
   app.model.Profile(0).topCap = app.model.Profile(0).bottomCap = 1;
   Drag("Form55", "HScroll24", 0);
-  app.form55.Command30.Press();
+  app.geometry->form55.Command30.Press();
   EXPECT_EQ(app.model.Part(0).maxfaces, 0);
   Drag("Form55", "HScroll24", 3);
   Drag("revolveprof", "HScroll9", 1);  // Points Start: rings of 4
-  app.form55.Command30.Press();
+  app.geometry->form55.Command30.Press();
   EXPECT_EQ(app.model.PointMark(0, 0), 1);
   const int cap = app.model.Part(0).maxfaces;
   EXPECT_EQ(cap, 4 * 2 * 2 - 1 + 2 * 2);  // three rings, the last one starts at 9

@@ -2,15 +2,17 @@
 #include <gtest/gtest.h>
 
 #include "app_fixture.h"
-#include "windows/editbyface_face_info.h"
-#include "windows/follow_counts.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/refresh_views.h"
-#include "windows/revolveprof_revolve_profile.h"
-#include "windows/shared_parameters.h"
-#include "windows/specialeffects5_edit_geometry.h"
+#include "windows/facetools/editbyface_face_info.h"
+#include "windows/facetools/facetools_windows.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/geometry/revolveprof_revolve_profile.h"
+#include "windows/geometry/specialeffects5_edit_geometry.h"
+#include "windows/shell/hooks.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -62,14 +64,14 @@ class EditGeometryWindow : public AppTest {
     On(picture, UserAction::MouseMove, 0, 0, button);  // nothing is held any more
   }
 
-  SpecialEffects5& window = app.specialeffects5;
+  SpecialEffects5& window = app.geometry->specialeffects5;
 };
 
 constexpr MouseButton kRight = MouseButton::Right;
 
 TEST_F(EditGeometryWindow, PointsOfFaces) {
   EXPECT_EQ(Marks(), "0000");
-  app.form51.HScroll7.SetValue(2);
+  app.view->form51.HScroll7.SetValue(2);
   window.Command5.Press();
   EXPECT_EQ(Marks(), "0111");
   window.Command7.Press(kRight);
@@ -79,7 +81,7 @@ TEST_F(EditGeometryWindow, PointsOfFaces) {
   EXPECT_EQ(Marks(), "1000");
   window.Command7.Press();
   EXPECT_EQ(Marks(), "1111");
-  app.form51.HScroll5.SetValue(1);  // from the second face to the first
+  app.view->form51.HScroll5.SetValue(1);  // from the second face to the first
   window.Command5.Press();
   EXPECT_EQ(Marks(), "0000");
 }
@@ -93,17 +95,17 @@ TEST_F(EditGeometryWindow, PointsOfAGroup) {
   window.Check5.SetValue(true);
   window.HScroll7.Drag(1);
   EXPECT_EQ(Marks(), "1110");
-  app.editbyface.VScroll1.SetValue(4);
+  app.facetools->editbyface.VScroll1.SetValue(4);
   window.Command11.Press();
   EXPECT_EQ(window.HScroll7.value(), 5);
   EXPECT_EQ(Marks(), "0111");
-  app.editbyface.VScroll1.SetValue(2);  // the lowest face that has it
+  app.facetools->editbyface.VScroll1.SetValue(2);  // the lowest face that has it
   window.Command11.Press();
   EXPECT_EQ(window.Text7.text(), "1");
 }
 
 TEST_F(EditGeometryWindow, PointsByDistanceAxisAndLayer) {
-  app.form5.Text5.SetText("10");
+  app.view->form5.Text5.SetText("10");
   window.HScroll9.Drag(0);
   EXPECT_EQ(Marks(), "0100");
   window.HScroll9.Drag(10);
@@ -114,23 +116,23 @@ TEST_F(EditGeometryWindow, PointsByDistanceAxisAndLayer) {
   window.Option6.SetValue(true);
   window.VScroll1.Drag(30);
   EXPECT_EQ(Marks(), "0001");
-  app.form5.HScroll5.SetValue(2);
+  app.view->form5.HScroll5.SetValue(2);
   window.HScroll8.Drag(0);
   window.Command3.Press();
   EXPECT_EQ(Marks(), "1101");
 }
 
 TEST_F(EditGeometryWindow, FacesFollowTheChoices) {
-  app.form51.HScroll7.SetValue(2);
+  app.view->form51.HScroll7.SetValue(2);
   window.Command4.Press(kRight);
   EXPECT_EQ(FacesOn(), "10");
   window.Command5.Press();
   window.Command1.Press();
   EXPECT_EQ(FacesOn(), "11");
-  app.form5.HScroll20.SetValue(3);  // a point outside the range is not chosen
+  app.view->form5.HScroll20.SetValue(3);  // a point outside the range is not chosen
   window.Command1.Press(kRight);
   EXPECT_EQ(FacesOn(), "11");
-  app.form5.HScroll20.SetValue(1);
+  app.view->form5.HScroll20.SetValue(1);
   window.HScroll7.Drag(9);
   window.Command10.Press();
   EXPECT_EQ(Face(1).group, 1);
@@ -151,7 +153,7 @@ TEST_F(EditGeometryWindow, TheFaceRangeIsOneForAllWindows) {
   window.HScroll5.Drag(0);
   EXPECT_EQ(FaceRangeEnd(app), 0);
   EXPECT_EQ(Marks(), "0000");
-  app.form51.HScroll5.Drag(2);
+  app.view->form51.HScroll5.Drag(2);
   EXPECT_EQ(window.Text5.text(), "2");
   EXPECT_EQ(Marks(), "0111");
   app.model.Part(0).maxfaces = 1;
@@ -188,8 +190,8 @@ TEST_F(EditGeometryWindow, TurnsAreHalfADegreeAUnit) {
 
 TEST_F(EditGeometryWindow, ScalesByTheWayOfTheDrag) {
   window.Command4.Press();
-  app.form5.Text5.SetText("0.1");
-  app.form5.Text9.SetText("0.1");
+  app.view->form5.Text5.SetText("0.1");
+  app.view->form5.Text9.SetText("0.1");
   Point(1).X = Point(1).Y = 1e-20;  // would be lost beside 0.1
   Drag("Picture3", 0, 0);
   EXPECT_EQ(Place(1), (Vec3{1e-20, 1e-20, 0}));
@@ -212,13 +214,13 @@ TEST_F(EditGeometryWindow, TheOriginIsDraggedInUnitsOfTheView) {
   Drag("Picture4", 50, -7, kRight);
   EXPECT_EQ(Origin(app), (Vec3{2.5, 3, -7}));
   app.Deliver({"specialeffects5", "Picture4", UserAction::DoubleClick});
-  EXPECT_EQ(app.form5.Text3.text(), "0");
+  EXPECT_EQ(app.view->form5.Text3.text(), "0");
   EXPECT_EQ(Origin(app), (Vec3{0, 0, 0}));
 }
 
 TEST_F(EditGeometryWindow, JoinedEndsStayTogether) {
-  app.form5.HScroll5.SetValue(2);
-  app.form5.HScroll20.SetValue(2);
+  app.view->form5.HScroll5.SetValue(2);
+  app.view->form5.HScroll20.SetValue(2);
   window.Command4.Press();
   window.Check4.SetValue(true);
   Drag("Picture1", 0, 0);
@@ -226,14 +228,14 @@ TEST_F(EditGeometryWindow, JoinedEndsStayTogether) {
 }
 
 TEST_F(EditGeometryWindow, AreasPickInTheProjectionOfTheView) {
-  app.form51.Option5.SetValue(true);  // the origin stands at (318, -318)
+  app.view->form51.Option5.SetValue(true);  // the origin stands at (318, -318)
   window.HScroll2.SetValue(12);
   window.HScroll6.SetValue(5);
   On("Picture5", UserAction::MouseDown, 328, -318);
   EXPECT_EQ(Marks(), "0100");
   On("Picture5", UserAction::MouseDown, 318, -318);
   EXPECT_EQ(Marks(), "1101");
-  app.form51.Option2.SetValue(true);
+  app.view->form51.Option2.SetValue(true);
   window.Option3.SetValue(true);
   window.Option10.SetValue(true);
   EXPECT_EQ(window.Picture1.picture.ScaleHeight(), -637);
@@ -241,7 +243,7 @@ TEST_F(EditGeometryWindow, AreasPickInTheProjectionOfTheView) {
   EXPECT_EQ(Marks(), "1111");
   On("Picture1", UserAction::MouseDown, 318, -318, kRight);
   EXPECT_EQ(Marks(), "0001");
-  app.form51.Option4.SetValue(true);  // not here
+  app.view->form51.Option4.SetValue(true);  // not here
   On("Picture5", UserAction::MouseDown, 318, -318);
   EXPECT_EQ(Marks(), "0001");
   window.Option7.SetValue(true);
@@ -250,8 +252,8 @@ TEST_F(EditGeometryWindow, AreasPickInTheProjectionOfTheView) {
 
 TEST_F(EditGeometryWindow, MirrorsAndSteps) {
   window.Command4.Press();
-  app.form5.Text9.SetText("5");
-  app.form5.HScroll10.SetValue(3);
+  app.view->form5.Text9.SetText("5");
+  app.view->form5.HScroll10.SetValue(3);
   window.Command12.Press();
   EXPECT_EQ(Place(3), (Vec3{0, -10, 0}));
   window.Command15.Press();
@@ -263,11 +265,11 @@ TEST_F(EditGeometryWindow, MirrorsAndSteps) {
 TEST_F(EditGeometryWindow, ThePartAndItsWireFollow) {
   window.HScroll1.Drag(1);
   EXPECT_EQ(CurrentPart(app), 1);
-  window.ShowPart(0);
+  app.view->form51.HScroll4.SetValue(0);
   EXPECT_EQ(window.Text1.text(), "0");
   window.Check1.SetValue(false);
-  EXPECT_FALSE(app.form51.Check7.value());
-  app.form51.Check7.SetValue(true);
+  EXPECT_FALSE(app.view->form51.Check7.value());
+  app.view->form51.Check7.SetValue(true);
   EXPECT_TRUE(window.Check1.value());
 }
 
@@ -299,13 +301,13 @@ TEST_F(EditGeometryWindow, ThePickAreaHasTheViewsShape) {
 TEST_F(EditGeometryWindow, TheOpenWindowShowsTheViewInItsPickArea) {
   const auto middleOfTheEdge = [&] { return window.Picture5.picture.PixelAt(129, 54); };
   CopyPosition(Point(2), Vec3{400, 200, 0});
-  app.form51.Option5.SetValue(true);
+  app.view->form51.Option5.SetValue(true);
   SyncFaceCorners(app);
   RefreshViews(app);
   const int ground = middleOfTheEdge();
   PressItem("special5");
   EXPECT_NE(middleOfTheEdge(), ground);
-  app.form51.Check7.SetValue(false);
+  app.view->form51.Check7.SetValue(false);
   EXPECT_EQ(middleOfTheEdge(), ground);
 }
 

@@ -2,12 +2,16 @@
 #include <gtest/gtest.h>
 
 #include "app_fixture.h"
-#include "windows/form14_obj_files.h"
-#include "windows/form31_project_files.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/revolveprof_revolve_profile.h"
-#include "windows/shared_parameters.h"
+#include "windows/frame/form31_project_files.h"
+#include "windows/frame/frame_windows.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/geometry/revolveprof_revolve_profile.h"
+#include "windows/interchange/form14_obj_files.h"
+#include "windows/interchange/interchange_windows.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -29,19 +33,19 @@ class FileWindows : public AppTest {
 TEST_F(FileWindows, SaveOpenSaveGivesTheSameBytesAndTheRangesFollow) {
   MakeCup();
   SaveTo(Project());
-  EXPECT_EQ(app.form31.Text1.text(), Project().string());
+  EXPECT_EQ(app.frame->form31.Text1.text(), Project().string());
   const std::string bytes = BytesOf(Project());
 
   App other(platform, folder());
   other.Start();
   platform.QueueAnswer(Project().string());
-  other.form31.Command15.Press();
+  other.frame->form31.Command15.Press();
   EXPECT_EQ(PointRangeEnd(other), 186);
   EXPECT_EQ(FaceRangeEnd(other), 221);
-  EXPECT_EQ(other.form51.Label3.caption(), "221faces  points 186");
-  EXPECT_EQ(other.form51.Label17.caption(), "4");
+  EXPECT_EQ(other.view->form51.Label3.caption(), "221faces  points 186");
+  EXPECT_EQ(other.view->form51.Label17.caption(), "4");
   platform.QueueAnswer((folder() / "again.prj").string());
-  other.form31.Command14.Press();
+  other.frame->form31.Command14.Press();
   EXPECT_EQ(BytesOf(folder() / "again.prj"), bytes);
 }
 
@@ -50,7 +54,7 @@ TEST_F(FileWindows, DialogsAskAsTold) {
   PressItem("saveproj");
   PressItem("exportinfo");
   PressItem("exportobjinfo2");
-  app.form14.Command26.Press();
+  app.interchange->form14.Command26.Press();
   const auto dialogs = platform.TakeDialogs();
   ASSERT_EQ(dialogs.size(), 5U);
   EXPECT_EQ(dialogs[0].title, "Open Project (.prj file)");
@@ -61,7 +65,7 @@ TEST_F(FileWindows, DialogsAskAsTold) {
   EXPECT_EQ(dialogs[2].title, "Export Obj info --All Part#'s(.txt file)");
   EXPECT_EQ(dialogs[3].folder, folder() / "objinfo");
   EXPECT_EQ(dialogs[4].filter, "All Files (*.obj*)|*.obj*");
-  EXPECT_TRUE(app.form31.Text1.text().empty());
+  EXPECT_TRUE(app.frame->form31.Text1.text().empty());
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
@@ -99,7 +103,7 @@ TEST_F(FileWindows, OpeningRunsNoAutomaticRevolve) {
   MakeCup();
   SaveTo(Project());
   app.model.Profile(0).count = 0;
-  app.revolveprof.Option2.SetValue(true);
+  app.geometry->revolveprof.Option2.SetValue(true);
   app.model.Points(0, 1).X = -1;
   OpenFrom(Project());
   EXPECT_EQ(app.model.Points(0, 1).X, 50);
@@ -114,32 +118,32 @@ TEST_F(FileWindows, QuickSaveAndGet) {
   app.model.Part(0).Sections = 20;
   PressItem("memsave");
   app.model.Part(0).maxfaces = 0;
-  app.revolveprof.Option2.SetValue(true);
+  app.geometry->revolveprof.Option2.SetValue(true);
   PressItem("restoreit");
   EXPECT_EQ(app.model.Part(0).maxfaces, 221);
   EXPECT_EQ(app.model.Part(0).Sections, 20);
   EXPECT_EQ(app.model.Profile(0).sectionCount, 4);
-  EXPECT_EQ(app.revolveprof.HScroll10.value(), 4);
+  EXPECT_EQ(app.geometry->revolveprof.HScroll10.value(), 4);
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
 TEST_F(FileWindows, ObjExportWritesItsMaterialFileBeside) {
   MakeCup();
-  app.form14.Check3.SetValue(true);
+  app.interchange->form14.Check3.SetValue(true);
   const auto obj = folder() / "objs" / "cup.obj";
   platform.QueueAnswer(obj.string());
-  app.form14.Command26.Press();
-  EXPECT_EQ(app.form14.Text13.text(), obj.string());
+  app.interchange->form14.Command26.Press();
+  EXPECT_EQ(app.interchange->form14.Text13.text(), obj.string());
   const std::string text = BytesOf(obj);
   EXPECT_TRUE(text.starts_with("mtllib " + obj.string() + "_materialfile.mtl\r\nv 50 -80 0\r\n"));
   EXPECT_TRUE(BytesOf(obj.string() + "_materialfile.mtl").starts_with("newmtl material_0\r\n"));
 }
 
 TEST_F(FileWindows, UseGroupsSetsBothKinds) {
-  app.form14.Check2.Press({});
-  EXPECT_FALSE(app.form14.Check1.value());
-  app.form14.Check2.Press({});
-  EXPECT_TRUE(app.form14.Check1.value() && app.form14.Check13.value());
+  app.interchange->form14.Check2.Press({});
+  EXPECT_FALSE(app.interchange->form14.Check1.value());
+  app.interchange->form14.Check2.Press({});
+  EXPECT_TRUE(app.interchange->form14.Check1.value() && app.interchange->form14.Check13.value());
 }
 
 TEST_F(FileWindows, AreaEstimateShowsInTheViewOptions) {
@@ -147,34 +151,34 @@ TEST_F(FileWindows, AreaEstimateShowsInTheViewOptions) {
   face.c2X = 3, face.c3Y = 4;
   app.model.Part(0).maxfaces = 1;
   PressItem("estarea");
-  EXPECT_EQ(app.form51.Label19.caption(), "Sq Units 6");
+  EXPECT_EQ(app.view->form51.Label19.caption(), "Sq Units 6");
 }
 
 TEST_F(FileWindows, PlainFilesThroughTheirButtons) {
   MakeCup();
   const std::string path = (folder() / "faces.txt").string();
-  app.form31.Text1.SetText(path);
-  app.form31.Command8.Press();
-  app.form31.Text2.SetText(path);
-  app.form51.HScroll4.SetValue(1);
-  app.form31.Command3.Press();
+  app.frame->form31.Text1.SetText(path);
+  app.frame->form31.Command8.Press();
+  app.frame->form31.Text2.SetText(path);
+  app.view->form51.HScroll4.SetValue(1);
+  app.frame->form31.Command3.Press();
   EXPECT_EQ(app.model.Part(1).maxfaces, 221);
   EXPECT_EQ(app.model.Part(1).maxpoints, 663);
   EXPECT_EQ(PointRangeEnd(app), 663);
-  app.form31.Command1.Press();  // the Part's own text
-  app.form31.Command4.Press();
+  app.frame->form31.Command1.Press();  // the Part's own text
+  app.frame->form31.Command4.Press();
   EXPECT_EQ(app.model.Part(1).maxfaces, 221);
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
 TEST_F(FileWindows, ListsFillTheNameBoxes) {
   WriteBytes(folder() / "projects" / "a.prj", "x");
-  app.form31.Load();
-  app.form31.File2.Pick(0);
-  EXPECT_EQ(app.form31.Text2.text(), (folder() / "projects" / "a.prj").string());
-  app.form31.Dir2.Pick(0);
-  app.form31.Dir2.DoubleClick();
-  EXPECT_EQ(app.form31.Dir2.folder(), folder());
+  app.frame->form31.Load();
+  app.frame->form31.File2.Pick(0);
+  EXPECT_EQ(app.frame->form31.Text2.text(), (folder() / "projects" / "a.prj").string());
+  app.frame->form31.Dir2.Pick(0);
+  app.frame->form31.Dir2.DoubleClick();
+  EXPECT_EQ(app.frame->form31.Dir2.folder(), folder());
 }
 
 }  // namespace

@@ -4,10 +4,12 @@
 #include "app_fixture.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/formulas2frm_profile_formulas.h"
-#include "windows/shared_parameters.h"
+#include "windows/profiles/formulas2frm_profile_formulas.h"
+#include "windows/profiles/profiles_windows.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -21,24 +23,24 @@ class ProfileFormulasWindow : public AppTest {
     return {p.X, p.Y, p.Z};
   }
 
-  Formulas2Frm& window = app.formulas2frm;
+  Formulas2Frm& window = app.profiles->formulas2frm;
 };
 
 TEST_F(ProfileFormulasWindow, APressFillsTheProfileChosenHere) {
   window.HScroll25.Drag(3);
   EXPECT_EQ(CurrentProfile(app), 3);
-  app.form5.Text5.Type("5");
-  app.form5.Text3.Type("7");
+  app.view->form5.Text5.Type("5");
+  app.view->form5.Text3.Type("7");
   Bar("HScroll27").Drag(20);
   window.Command6.Press();
   EXPECT_EQ(app.model.Profile(3).count, 20);
-  EXPECT_EQ(app.form51.HScroll6.value(), 20);
-  EXPECT_EQ(app.form51.Label17.caption(), "20");
+  EXPECT_EQ(app.view->form51.HScroll6.value(), 20);
+  EXPECT_EQ(app.view->form51.Label17.caption(), "20");
   EXPECT_NEAR(Point(0, 3).X, 5 + 98.39295886, 1e-3);
   EXPECT_NEAR(Point(0, 3).Z, 7 + 17.8557, 1e-3);
   EXPECT_EQ(Point(36, 3).Y, 300);
   EXPECT_EQ(app.model.Profile(0).count, 0);
-  app.form51.HScroll3.SetValue(8);
+  app.view->form51.HScroll3.SetValue(8);
   EXPECT_EQ(window.Text30.text(), "8");
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
@@ -111,7 +113,7 @@ TEST_F(ProfileFormulasWindow, AFaultEndsTheFormulaQuietly) {
   window.Command4.Press();
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);
   EXPECT_EQ(app.automaticActionsHeld, 0);
-  EXPECT_EQ(app.form51.HScroll6.value(), 36);
+  EXPECT_EQ(app.view->form51.HScroll6.value(), 36);
 }
 
 }  // namespace

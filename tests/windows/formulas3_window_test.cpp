@@ -2,12 +2,15 @@
 #include <gtest/gtest.h>
 
 #include "app_fixture.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/formulas3frm_edit_profile_ranges.h"
-#include "windows/formulas_edit_profile.h"
-#include "windows/freeface_free_faces.h"
-#include "windows/shared_parameters.h"
+#include "windows/facetools/facetools_windows.h"
+#include "windows/facetools/freeface_free_faces.h"
+#include "windows/profiles/formulas3frm_edit_profile_ranges.h"
+#include "windows/profiles/formulas_edit_profile.h"
+#include "windows/profiles/profiles_windows.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -21,7 +24,7 @@ class RangeWindow : public AppTest {
       app.model.ProfilePts(i, 0).X = kCorners[i][0];
       app.model.ProfilePts(i, 0).Z = kCorners[i][1];
     }
-    app.form51.HScroll6.SetValue(4);
+    app.view->form51.HScroll6.SetValue(4);
     window.HScroll13.Drag(2);
     window.HScroll2.Drag(2);
   }
@@ -39,7 +42,7 @@ class RangeWindow : public AppTest {
   }
 
   ProfilePointRec& At(int point, int profile) { return app.model.ProfilePts(point, profile); }
-  Formulas3Frm& window = app.formulas3frm;
+  Formulas3Frm& window = app.profiles->formulas3frm;
 };
 
 TEST_F(RangeWindow, ButtonsTakeTheirTextsAndTheRightOneGoesBack) {
@@ -55,7 +58,7 @@ TEST_F(RangeWindow, ButtonsTakeTheirTextsAndTheRightOneGoesBack) {
   window.Command39.Press(MouseButton::Right);
   EXPECT_EQ(At(36, 12).X, 107.5 * 1.01 * .99);
   At(0, 0) = {};
-  app.form5.Text5.SetText("10");
+  app.view->form5.Text5.SetText("10");
   window.Command4.Press();  // the point (0, 0) by 2 degrees about (10, 0)
   EXPECT_NEAR(At(0, 0).X, 10 - 10 * 0.999390827, 1e-6);
   EXPECT_NEAR(At(0, 0).Y, 10 * 0.034899497, 1e-6);
@@ -94,17 +97,17 @@ TEST_F(RangeWindow, GenFacesMakesThePartFromTheCopies) {
   EXPECT_EQ(app.model.Points(0, 12).Y, 20);
   EXPECT_EQ(app.model.Faces(0, 9).corner1pt, 1);  // the open seam
   EXPECT_EQ(app.model.Faces(0, 12).c3Y, 20);
-  EXPECT_EQ(app.freeface.HScroll11.value(), 5);
-  EXPECT_EQ(app.freeface.HScroll2.value(), 2);
+  EXPECT_EQ(app.facetools->freeface.HScroll11.value(), 5);
+  EXPECT_EQ(app.facetools->freeface.HScroll2.value(), 2);
   EXPECT_EQ(PointRangeEnd(app), 15);
   EXPECT_EQ(FaceRangeEnd(app), 19);
-  EXPECT_EQ(app.form5.HScroll5.value(), 5);
+  EXPECT_EQ(app.view->form5.HScroll5.value(), 5);
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
 TEST_F(RangeWindow, CapsCloseTheLastAndTheFirstRow) {
   PrepareStack();
-  app.freeface.HScroll1.SetValue(9);  // what a person left there does not matter
+  app.facetools->freeface.HScroll1.SetValue(9);  // what a person left there does not matter
   window.Check2.SetValue(true);
   window.Check4.SetValue(true);
   window.Check5.SetValue(true);
@@ -148,11 +151,11 @@ TEST_F(RangeWindow, NothingToBuildMakesNoFaces) {
 TEST_F(RangeWindow, PickersFollowBothWays) {
   window.HScroll3.Drag(5);
   EXPECT_EQ(CurrentProfile(app), 5);
-  app.form51.HScroll3.Drag(6);
+  app.view->form51.HScroll3.Drag(6);
   EXPECT_EQ(window.Text6.text(), "6");
   window.HScroll14.Drag(1);
   EXPECT_EQ(CurrentPart(app), 1);
-  app.form51.HScroll4.Drag(0);
+  app.view->form51.HScroll4.Drag(0);
   EXPECT_EQ(window.Text19.text(), "0");
 }
 

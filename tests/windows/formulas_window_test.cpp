@@ -1,12 +1,14 @@
 // The Edit Profile window.
 #include "app_fixture.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/formulas2frm_profile_formulas.h"
-#include "windows/formulas3frm_edit_profile_ranges.h"
-#include "windows/formulas_edit_profile.h"
-#include "windows/refresh_views.h"
+#include "windows/profiles/formulas2frm_profile_formulas.h"
+#include "windows/profiles/formulas3frm_edit_profile_ranges.h"
+#include "windows/profiles/formulas_edit_profile.h"
+#include "windows/profiles/profiles_windows.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/refresh_views.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -39,7 +41,7 @@ class EditProfileWindow : public AppTest {
     app.Deliver(event);
   }
 
-  Formulas& window = app.formulas;
+  Formulas& window = app.profiles->formulas;
 };
 
 TEST_F(EditProfileWindow, TheChosenPointShowsAndTakesWhatIsTyped) {
@@ -49,9 +51,9 @@ TEST_F(EditProfileWindow, TheChosenPointShowsAndTakesWhatIsTyped) {
   window.Text36.Type("3.5x");
   EXPECT_EQ(Point(1), (Vec3{20, 3.5, 20}));
   window.HScroll25.Drag(2);
-  EXPECT_EQ(app.form51.HScroll3.value(), 2);
+  EXPECT_EQ(app.view->form51.HScroll3.value(), 2);
   EXPECT_EQ(window.HScroll3.value(), 2);
-  EXPECT_EQ(app.formulas2frm.HScroll25.value(), 2);
+  EXPECT_EQ(app.profiles->formulas2frm.HScroll25.value(), 2);
   EXPECT_EQ(window.Text35.text(), "0");
 }
 
@@ -64,12 +66,12 @@ TEST_F(EditProfileWindow, JoinEndsPutsThePenOnTheFirstPoint) {
 
 TEST_F(EditProfileWindow, EveryControlFollowsAChangedCount) {
   window.Command10.Press();
-  EXPECT_EQ(app.form51.HScroll6.value(), 6);
-  EXPECT_EQ(app.form51.Label17.caption(), "6");
+  EXPECT_EQ(app.view->form51.HScroll6.value(), 6);
+  EXPECT_EQ(app.view->form51.Label17.caption(), "6");
   EXPECT_EQ(window.HScroll27.value(), 6);
   window.Command17.Press();
   EXPECT_EQ(app.model.Profile(0).count, 0);
-  EXPECT_EQ(app.form51.HScroll6.value(), 0);
+  EXPECT_EQ(app.view->form51.HScroll6.value(), 0);
   EXPECT_EQ(Point(2).X, 30);
 }
 
@@ -87,7 +89,7 @@ TEST_F(EditProfileWindow, DragsMoveTurnAndScale) {
   Drag(1, 0, MouseButton::Right);
   EXPECT_DOUBLE_EQ(Point(0).X, 12.87);
   window.Option2.SetValue(true);
-  app.form5.Text5.Type("12.87");
+  app.view->form5.Text5.Type("12.87");
   Drag(0, 9);
   EXPECT_DOUBLE_EQ(Point(0).X, 12.87);
   Drag(9, 0);  // one degree about X 12.87: X grows by Z * sin
@@ -109,29 +111,30 @@ TEST_F(EditProfileWindow, RingsOfAPartComeBackAsProfiles) {
 }
 
 TEST_F(EditProfileWindow, GrayLevelsComeFromTheImage) {
-  app.form36.Picture2.picture.backColour = Rgb(100, 100, 100);
-  app.form36.Picture2.picture.Clear();
+  app.view->form36.Picture2.picture.backColour = Rgb(100, 100, 100);
+  app.view->form36.Picture2.picture.Clear();
   app.model.ProfilePts(0, 0).Y = 10;
   window.Command15.Press();
   EXPECT_EQ(Point(0).Z, 25);
-  app.form36.VScroll1.SetValue(10);  // all points above the image
+  app.view->form36.VScroll1.SetValue(10);  // all points above the image
   window.Text4.Type("1");
   window.Command15.Press();
   EXPECT_EQ(Point(0).Z, 25);
 }
 
 TEST_F(EditProfileWindow, OptionsOfAllProfileWindowsGoTogether) {
-  app.form51.Option4.SetValue(true);
-  app.formulas2frm.view.Option6.SetValue(true);
+  app.view->form51.Option4.SetValue(true);
+  app.profiles->formulas2frm.view.Option6.SetValue(true);
   EXPECT_TRUE(window.view.Option6.value());
-  EXPECT_TRUE(app.form51.Option1.value());
-  EXPECT_EQ(app.form36.Label54.caption(), " PROFILE VIEW--Side ");
-  app.formulas3frm.view.Option8.SetValue(true);  // shaded in all; the profile view comes back as it was
+  EXPECT_TRUE(app.view->form51.Option1.value());
+  EXPECT_EQ(app.view->form36.Label54.caption(), " PROFILE VIEW--Side ");
+  app.profiles->formulas3frm.view.Option8.SetValue(
+      true);  // shaded in all; the profile view comes back as it was
   EXPECT_TRUE(window.view.Option8.value());
-  EXPECT_TRUE(app.form51.Option11.value());
-  app.form51.Option1.SetValue(true);
-  EXPECT_TRUE(app.formulas2frm.view.Option6.value());
-  EXPECT_EQ(app.form36.Label54.caption(), " PROFILE VIEW--Side ");
+  EXPECT_TRUE(app.view->form51.Option11.value());
+  app.view->form51.Option1.SetValue(true);
+  EXPECT_TRUE(app.profiles->formulas2frm.view.Option6.value());
+  EXPECT_EQ(app.view->form36.Label54.caption(), " PROFILE VIEW--Side ");
 }
 
 TEST_F(EditProfileWindow, AnotherProfileShowsTheSamePoint) {
@@ -141,14 +144,14 @@ TEST_F(EditProfileWindow, AnotherProfileShowsTheSamePoint) {
   window.HScroll25.Drag(4);
   EXPECT_EQ(window.HScroll27.value(), 2);
   EXPECT_EQ(window.Text35.text(), "77");
-  EXPECT_EQ(app.form51.Label17.caption(), "9");
+  EXPECT_EQ(app.view->form51.Label17.caption(), "9");
 }
 
 // What would run away to infinity is a fault, and the profiles stay as they were.
 TEST_F(EditProfileWindow, ResultsAreFinite) {
   app.model.ProfilePts(1, 0).X = 1e300;
-  app.form5.Text5.SetText("-1e300");
-  app.formulas3frm.Text20.SetText("1e200");
+  app.view->form5.Text5.SetText("-1e300");
+  app.profiles->formulas3frm.Text20.SetText("1e200");
   app.Deliver({"Formulas3frm", "Command35", UserAction::Press});
   EXPECT_EQ(Point(0).X, 10);
   EXPECT_EQ(Point(1).X, 1e300);

@@ -1,17 +1,20 @@
 // The freeface window, Combine, and the menu items that lead to them.
-#include "windows/freeface_free_faces.h"
+#include "windows/facetools/freeface_free_faces.h"
 
 #include <array>
 
 #include "app_fixture.h"
 #include "base/numbers.h"
-#include "windows/editbyface_face_info.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/revolveprof_revolve_profile.h"
-#include "windows/shared_parameters.h"
-#include "windows/specialeffects1_special_effects.h"
+#include "windows/facetools/editbyface_face_info.h"
+#include "windows/facetools/facetools_windows.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/geometry/revolveprof_revolve_profile.h"
+#include "windows/geometry/specialeffects1_special_effects.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -25,21 +28,21 @@ class FreeFaceWindow : public AppTest {
   }
   using Face = std::array<int, 3>;
 
-  FreeFace& window = app.freeface;
+  FreeFace& window = app.facetools->freeface;
 };
 
 TEST_F(FreeFaceWindow, CapsCloseARevolvedBody) {
-  app.revolveprof.HScroll10.Drag(32);
+  app.geometry->revolveprof.HScroll10.Drag(32);
   MakeCup();  // four rows of 33 points, 197 faces
   ASSERT_EQ(Part().maxfaces, 197);
   window.Command4.Press();
   EXPECT_EQ(Part().maxfaces, 228);
   EXPECT_EQ(Corners(228), (Face{1, 32, 33}));
-  EXPECT_EQ(app.form5.Label1.caption(), "faces 228 points 166");
-  EXPECT_EQ(app.form51.Label3.caption(), "228faces  points 166");
+  EXPECT_EQ(app.view->form5.Label1.caption(), "faces 228 points 166");
+  EXPECT_EQ(app.view->form51.Label3.caption(), "228faces  points 166");
   EXPECT_EQ(FaceRangeEnd(app), 228);
-  EXPECT_EQ(app.form51.HScroll7.max(), 228);
-  EXPECT_EQ(app.editbyface.VScroll2.max(), 228);
+  EXPECT_EQ(app.view->form51.HScroll7.max(), 228);
+  EXPECT_EQ(app.facetools->editbyface.VScroll2.max(), 228);
   EXPECT_EQ(window.Text16.text(), "228");
   EXPECT_EQ(app.model.Faces(0, 228).c1X, app.model.Points(0, 1).X);
   window.Command5.Press();
@@ -50,8 +53,8 @@ TEST_F(FreeFaceWindow, CapsCloseARevolvedBody) {
 }
 
 TEST_F(FreeFaceWindow, RevolvePressesTheTickedCaps) {
-  app.revolveprof.Check6.SetValue(true);
-  app.revolveprof.Check10.SetValue(true);
+  app.geometry->revolveprof.Check6.SetValue(true);
+  app.geometry->revolveprof.Check10.SetValue(true);
   MakeCup();
   EXPECT_EQ(Part().maxfaces, 221 + 35 + 4);
   EXPECT_EQ(Corners(257), (Face{1, 38, 75}));
@@ -95,9 +98,9 @@ TEST_F(FreeFaceWindow, ChoosingAFaceShowsItWithoutWriting) {
 // Commit would store what the boxes still showed of the Part before.
 TEST_F(FreeFaceWindow, TheRoutedFaceShowsWhatAPartChangeBrought) {
   app.model.Faces(1, 1).corner2pt = 9;
-  app.form51.HScroll4.SetValue(1);
+  app.view->form51.HScroll4.SetValue(1);
   EXPECT_EQ(window.Text12.text(), "9");
-  app.form51.HScroll4.SetValue(0);
+  app.view->form51.HScroll4.SetValue(0);
   MakeCup();
   EXPECT_EQ(window.Text13.text(), "38");
 }
@@ -109,12 +112,12 @@ TEST_F(FreeFaceWindow, CornersAreStoredOneByOne) {
   window.HScroll17.Drag(50);
   EXPECT_EQ(Corners(3), (Face{before[0], 50, before[2]}));
   EXPECT_EQ(app.model.Faces(0, 3).c2X, app.model.Points(0, 50).X);
-  EXPECT_EQ(app.editbyface.VScroll1.value(), 50);
+  EXPECT_EQ(app.facetools->editbyface.VScroll1.value(), 50);
   window.Text13.Type("60");
-  app.form36.Label16.SetCaption("70");
+  app.view->form36.Label16.SetCaption("70");
   window.Text11.DoubleClick();
   EXPECT_EQ(Corners(3), (Face{70, 50, 60}));
-  app.form36.Label16.SetCaption("0");
+  app.view->form36.Label16.SetCaption("0");
   window.Text12.DoubleClick();
   EXPECT_EQ(Corners(3), (Face{70, 50, 60}));
   window.Text17.Type("0");
@@ -146,7 +149,7 @@ TEST_F(FreeFaceWindow, ProfilesBecomePoints) {
   EXPECT_EQ(app.model.PointMark(0, 3) + app.model.Points(0, 3).onoff, 2);
   EXPECT_EQ(PointRangeStart(app), 1);
   EXPECT_EQ(PointRangeEnd(app), 6);
-  app.form51.HScroll3.SetValue(5);
+  app.view->form51.HScroll3.SetValue(5);
   PressItem("importprofiles");
   EXPECT_EQ(Part().maxpoints, 3);
   EXPECT_EQ(app.model.Points(0, 1).X, 50);
@@ -156,15 +159,15 @@ TEST_F(FreeFaceWindow, JoinMovesPointsTogether) {
   MakeCup();
   app.model.Points(0, 2).X = app.model.Points(0, 1).X + 1;
   app.model.Points(0, 2).Y = app.model.Points(0, 1).Y;
-  app.specialeffects1.HScroll3.Drag(5);
-  EXPECT_EQ(app.specialeffects1.Text15.text(), "5");
+  app.geometry->specialeffects1.HScroll3.Drag(5);
+  EXPECT_EQ(app.geometry->specialeffects1.Text15.text(), "5");
   PressItem("joinitall");
-  EXPECT_EQ(app.specialeffects1.HScroll3.value(), 2);
+  EXPECT_EQ(app.geometry->specialeffects1.HScroll3.value(), 2);
   EXPECT_EQ(app.model.Points(0, 2).X, app.model.Points(0, 1).X);
   EXPECT_EQ(app.model.Faces(0, 1).c2X, app.model.Points(0, 1).X);
-  EXPECT_EQ(app.specialeffects1.ProgressBar1.value(), Part().maxpoints);
+  EXPECT_EQ(app.geometry->specialeffects1.ProgressBar1.value(), Part().maxpoints);
   EXPECT_EQ(Part().maxpoints, 186);
-  EXPECT_GE(Val(app.specialeffects1.Text15.text()), 1);
+  EXPECT_GE(Val(app.geometry->specialeffects1.Text15.text()), 1);
 }
 
 }  // namespace

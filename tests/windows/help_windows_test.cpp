@@ -3,10 +3,11 @@
 
 #include "platform/headless_platform.h"
 #include "support/harness.h"
-#include "windows/app.h"
-#include "windows/frm_about.h"
-#include "windows/frm_splash.h"
-#include "windows/help_me.h"
+#include "windows/frame/frame_windows.h"
+#include "windows/frame/frm_about.h"
+#include "windows/frame/frm_splash.h"
+#include "windows/frame/help_me.h"
+#include "windows/shell/app_shell.h"
 
 namespace pelorium {
 namespace {
@@ -15,11 +16,13 @@ namespace fs = std::filesystem;
 
 class HelpWindows : public FolderTest {
  protected:
-  std::string HelpText() const { return AsText(app.helpme.RichTextBox1.Value()); }
-  TextFormat FirstLook() const { return app.helpme.RichTextBox1.text().Paragraphs()[0].runs.at(0).format; }
+  std::string HelpText() const { return AsText(app.frame->helpme.RichTextBox1.Value()); }
+  TextFormat FirstLook() const {
+    return app.frame->helpme.RichTextBox1.text().Paragraphs()[0].runs.at(0).format;
+  }
   void SetHelpText(const std::string& text, int start, int length) {
-    app.helpme.RichTextBox1.SetOwnValue(text);
-    app.helpme.RichTextBox1.SetSelection(start, length);
+    app.frame->helpme.RichTextBox1.SetOwnValue(text);
+    app.frame->helpme.RichTextBox1.SetSelection(start, length);
   }
   // Presses Open or Save and answers the file dialog.
   void PressAndAnswer(PushButton& button, const fs::path& file) {
@@ -32,86 +35,87 @@ class HelpWindows : public FolderTest {
 };
 
 TEST_F(HelpWindows, AClickOnTheSplashStartsOnce) {
-  app.frmSplash.Show();
-  app.frmSplash.Label2.Press({});
-  EXPECT_FALSE(app.frmSplash.visible());
+  app.frame->frmSplash.Show();
+  app.frame->frmSplash.Label2.Press({});
+  EXPECT_FALSE(app.frame->frmSplash.visible());
   EXPECT_TRUE(app.started);
   app.model.Points(0, 5).X = 77;
-  app.frmSplash.Label1.Press({});
-  app.frmSplash.Picture1.Key(' ');
+  app.frame->frmSplash.Label1.Press({});
+  app.frame->frmSplash.Picture1.Key(' ');
   EXPECT_EQ(app.model.Points(0, 5).X, 77);
 }
 
 TEST_F(HelpWindows, AboutSaysWhenThereIsNoSystemInformation) {
-  app.frmAbout.Show();
-  app.frmAbout.cmdSysInfo.Press();
+  app.frame->frmAbout.Show();
+  app.frame->frmAbout.cmdSysInfo.Press();
   EXPECT_EQ(platform.TakeMessages(),
             std::vector<std::string>{"System Information Is Unavailable At This Time"});
-  app.frmAbout.cmdOK.Press();
-  EXPECT_FALSE(app.frmAbout.visible());
+  app.frame->frmAbout.cmdOK.Press();
+  EXPECT_FALSE(app.frame->frmAbout.visible());
 }
 
 TEST_F(HelpWindows, HelpIsLoadedFromTheProgramsFolder) {
-  EXPECT_TRUE(Raises(FaultKind::FileError, [&] { app.helpme.LoadHelp(); }));
+  EXPECT_TRUE(Raises(FaultKind::FileError, [&] { app.frame->helpme.LoadHelp(); }));
   app.Start();
   EXPECT_TRUE(app.started) << "help that is missing does not stop the start";
   WriteBytes(folder() / "help.rtf", "{\\rtf1\\b Help\\b0\\par text}");
-  app.helpme.LoadHelp();
+  app.frame->helpme.LoadHelp();
   EXPECT_EQ(HelpText(), "Help\ntext");
   EXPECT_TRUE(FirstLook().bold);
 }
 
 TEST_F(HelpWindows, CopyPasteAndPrintTakeTheSelection) {
   SetHelpText("one two three", 4, 3);
-  app.helpme.Command1.Press();  // an empty clipboard takes nothing away
+  app.frame->helpme.Command1.Press();  // an empty clipboard takes nothing away
   EXPECT_EQ(HelpText(), "one two three");
-  app.helpme.Command2.Press();
+  app.frame->helpme.Command2.Press();
   EXPECT_EQ(platform.ClipboardText(), "two");
-  app.helpme.Command3.Press();
+  app.frame->helpme.Command3.Press();
   EXPECT_EQ(platform.printed(), "two");
   platform.SetClipboardText("2\r\n2");
-  app.helpme.Command1.Press();
+  app.frame->helpme.Command1.Press();
   EXPECT_EQ(HelpText(), "one 2\n2 three");
-  EXPECT_EQ(app.helpme.RichTextBox1.selectionStart(), 7);
-  app.helpme.Command2.Press();  // nothing is selected now
+  EXPECT_EQ(app.frame->helpme.RichTextBox1.selectionStart(), 7);
+  app.frame->helpme.Command2.Press();  // nothing is selected now
   EXPECT_EQ(platform.ClipboardText(), "2\r\n2");
-  app.helpme.Command3.Press();
+  app.frame->helpme.Command3.Press();
   EXPECT_EQ(platform.printed(), "one 2\n2 three");
 }
 
 TEST_F(HelpWindows, LooksGoOnTheSelection) {
   SetHelpText("one two", 0, 3);
-  app.helpme.Text1.Type("100");
-  app.helpme.Text1.FinishTyping();
-  EXPECT_EQ(app.helpme.HScroll1.value(), 72);
-  EXPECT_EQ(app.helpme.Text1.text(), "72");
-  app.helpme.HScroll1.Drag(30);
-  app.helpme.HScroll2.Drag(200);
-  app.helpme.HScroll4.Drag(1000);
-  EXPECT_EQ(app.helpme.Picture1.picture.PixelAt(3, 3), static_cast<int>(Rgb(200, 0, 255)));
+  app.frame->helpme.Text1.Type("100");
+  app.frame->helpme.Text1.FinishTyping();
+  EXPECT_EQ(app.frame->helpme.HScroll1.value(), 72);
+  EXPECT_EQ(app.frame->helpme.Text1.text(), "72");
+  app.frame->helpme.HScroll1.Drag(30);
+  app.frame->helpme.HScroll2.Drag(200);
+  app.frame->helpme.HScroll4.Drag(1000);
+  EXPECT_EQ(app.frame->helpme.Picture1.picture.PixelAt(3, 3), static_cast<int>(Rgb(200, 0, 255)));
   EXPECT_EQ(FirstLook(), TextFormat());  // the bars alone change nothing
-  for (PushButton* button : {&app.helpme.Command4, &app.helpme.Command5, &app.helpme.Command6,
-                             &app.helpme.Command8, &app.helpme.Command9, &app.helpme.Command7}) {
+  for (PushButton* button :
+       {&app.frame->helpme.Command4, &app.frame->helpme.Command5, &app.frame->helpme.Command6,
+        &app.frame->helpme.Command8, &app.frame->helpme.Command9, &app.frame->helpme.Command7}) {
     button->Press();
   }
   const TextFormat expected{true, true, true, 30, Rgb(200, 0, 255)};
   EXPECT_EQ(FirstLook(), expected);
-  EXPECT_TRUE(app.helpme.RichTextBox1.text().bullet(0));
-  EXPECT_EQ(app.helpme.RichTextBox1.text().Paragraphs()[0].runs.at(1).format, TextFormat());
+  EXPECT_TRUE(app.frame->helpme.RichTextBox1.text().bullet(0));
+  EXPECT_EQ(app.frame->helpme.RichTextBox1.text().Paragraphs()[0].runs.at(1).format, TextFormat());
 }
 
 TEST_F(HelpWindows, SaveAndOpenKeepTheLooks) {
   fs::create_directory(folder() / "notes");
   SetHelpText("one\ntwo", 0, 3);
-  app.helpme.Command6.Press();
+  app.frame->helpme.Command6.Press();
   fs::create_directory(folder() / "notes");
-  PressAndAnswer(app.helpme.Command11, folder() / "notes" / "a");
-  PressAndAnswer(app.helpme.Command11, folder() / "notes" / "b.txt");
+  PressAndAnswer(app.frame->helpme.Command11, folder() / "notes" / "a");
+  PressAndAnswer(app.frame->helpme.Command11, folder() / "notes" / "b.txt");
   EXPECT_EQ(BytesOf(folder() / "notes" / "b.txt"), "one\r\ntwo");
-  const RichText saved = app.helpme.RichTextBox1.text();
-  app.helpme.RichTextBox1.SetOwnValue(std::string("other"));
-  PressAndAnswer(app.helpme.Command10, folder() / "notes" / "a.rtf");
-  EXPECT_EQ(app.helpme.RichTextBox1.text(), saved);
+  const RichText saved = app.frame->helpme.RichTextBox1.text();
+  app.frame->helpme.RichTextBox1.SetOwnValue(std::string("other"));
+  PressAndAnswer(app.frame->helpme.Command10, folder() / "notes" / "a.rtf");
+  EXPECT_EQ(app.frame->helpme.RichTextBox1.text(), saved);
   EXPECT_TRUE(app.faults.TakeAll().empty());
 
   const auto dialogs = platform.TakeDialogs();
@@ -126,12 +130,12 @@ TEST_F(HelpWindows, SaveAndOpenKeepTheLooks) {
 
 TEST_F(HelpWindows, ACancelOrAFailedFileCostsNothing) {
   SetHelpText("one", 0, 0);
-  app.helpme.Command10.Press();
-  app.helpme.Command11.Press();
+  app.frame->helpme.Command10.Press();
+  app.frame->helpme.Command11.Press();
   EXPECT_FALSE(fs::exists(folder() / "notes"));  // no dialog makes a folder
   EXPECT_TRUE(app.faults.TakeAll().empty());
-  PressAndAnswer(app.helpme.Command10, folder() / "missing.rtf");
-  PressAndAnswer(app.helpme.Command11, folder() / "missing" / "a.rtf");
+  PressAndAnswer(app.frame->helpme.Command10, folder() / "missing.rtf");
+  PressAndAnswer(app.frame->helpme.Command11, folder() / "missing" / "a.rtf");
   EXPECT_EQ(HelpText(), "one");
   const auto faults = app.faults.TakeAll();
   ASSERT_EQ(faults.size(), 2u);

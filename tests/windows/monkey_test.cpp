@@ -9,7 +9,8 @@
 #include "app_fixture.h"
 #include "base/random_series.h"
 #include "graphics/gl_recorder.h"
-#include "windows/form36_view.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -75,7 +76,7 @@ class Monkey : public AppTest, public testing::WithParamInterface<int> {
   }
 
   UserEvent Doing() {
-    const Control& control = Below(3) == 0 ? app.form36.Picture1 : AnyControl();
+    const Control& control = Below(3) == 0 ? app.view->form36.Picture1 : AnyControl();
     UserEvent event;
     event.window = control.owner().name();
     event.control = control.name();
@@ -138,7 +139,7 @@ TEST_P(Monkey, WalksOverEveryControl) {
     platform.QueueAnswer(Below(2) == 0 ? "" : (folder() / ("file" + std::to_string(Below(4)))).string());
     app.Deliver(Doing());
     ASSERT_NO_FATAL_FAILURE(ExpectInvariants(step));
-    if (step % 10 == 0) app.form36.Picture1.picture.Pixels();
+    if (step % 10 == 0) app.view->form36.Picture1.picture.Pixels();
   }
 }
 

@@ -1,9 +1,12 @@
 // Notices: what file commands did, and every fault.
 #include "app_fixture.h"
-#include "windows/form14_obj_files.h"
-#include "windows/form31_project_files.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
+#include "windows/frame/form31_project_files.h"
+#include "windows/frame/frame_windows.h"
+#include "windows/interchange/form14_obj_files.h"
+#include "windows/interchange/interchange_windows.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -22,11 +25,11 @@ class NoticesTest : public AppTest {
 
 TEST_F(NoticesTest, TellWhatFilesBecame) {
   MakeCup();
-  Press(app.form31.Command14, "cup.prj");
+  Press(app.frame->form31.Command14, "cup.prj");
   const std::string kilobytes =
       std::to_string((std::filesystem::file_size(folder() / "cup.prj") + 512) / 1024) + " KB";
-  Press(app.form31.Command15, "cup.prj");
-  Press(app.form14.Command26, "objs/cup.obj");
+  Press(app.frame->form31.Command15, "cup.prj");
+  Press(app.interchange->form14.Command26, "objs/cup.obj");
   PressItem("memsave");
   Lines notices = app.notices.TakeAll();
   ASSERT_EQ(notices.size(), 4u);
@@ -35,19 +38,19 @@ TEST_F(NoticesTest, TellWhatFilesBecame) {
   EXPECT_TRUE(notices[2].starts_with("exported cup.obj, ")) << notices[2];
   EXPECT_TRUE(notices[3].starts_with("saved qsave.txt, ")) << notices[3];
   EXPECT_TRUE(std::filesystem::exists(folder() / "objs" / "cup.obj_materialfile.mtl"));
-  EXPECT_EQ(app.form14.File1.items(), (Lines{"cup.obj"}));  // the lists are read again
+  EXPECT_EQ(app.interchange->form14.File1.items(), (Lines{"cup.obj"}));  // the lists are read again
 }
 
 TEST_F(NoticesTest, TellOfFaultsAndOfWhatEndedEarly) {
   NoticeKind kind{};
   app.notices.onNotice = [&](const std::string&, NoticeKind given) { kind = given; };
   WriteBytes(folder() / "cut.prj", " 0  1 \r\n 0  1 \r\nx");
-  Press(app.form31.Command15, "cut.prj");
+  Press(app.frame->form31.Command15, "cut.prj");
   EXPECT_EQ(app.notices.TakeAll(),
             (Lines{"opened in part: cut.prj", "Form31.Command15: bad number: \"x\", line 3"}));
   EXPECT_EQ(kind, NoticeKind::Fault);
-  app.form31.Text2.SetText("absent.txt");  // names in boxes lie in the working folder
-  Press(app.form31.Command4);
+  app.frame->form31.Text2.SetText("absent.txt");  // names in boxes lie in the working folder
+  Press(app.frame->form31.Command4);
   const Lines notices = app.notices.TakeAll();
   ASSERT_EQ(notices.size(), 1u);
   EXPECT_NE(notices[0].find((folder() / "absent.txt").string()), std::string::npos) << notices[0];
@@ -55,10 +58,10 @@ TEST_F(NoticesTest, TellOfFaultsAndOfWhatEndedEarly) {
 
 // A trapped read shows nothing: the refresh stands behind it in the same trap.
 TEST_F(NoticesTest, PositionsThatCannotBeReadShowNothing) {
-  app.form36.Picture1.picture.Clear();
-  const auto before = app.form36.Picture1.picture.Revision();
-  Press(app.form31.Command7);
-  EXPECT_EQ(app.form36.Picture1.picture.Revision(), before);
+  app.view->form36.Picture1.picture.Clear();
+  const auto before = app.view->form36.Picture1.picture.Revision();
+  Press(app.frame->form31.Command7);
+  EXPECT_EQ(app.view->form36.Picture1.picture.Revision(), before);
 }
 
 // Exit hides a few windows by name first, then the others in the program's order.

@@ -1,8 +1,9 @@
 // The numeric edits of Precise Edit.
 #include "app_fixture.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/shared_parameters.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -13,8 +14,8 @@ class PreciseEdit : public AppTest {
   void Lay(int points, int width) {
     for (int n = 1; n <= points; ++n) Place(n, {15, 4, 13});
     app.model.Part(0).maxpoints = static_cast<std::int16_t>(points);
-    app.form5.HScroll25.SetValue(points);
-    app.form5.HScroll5.SetValue(width);
+    app.view->form5.HScroll25.SetValue(points);
+    app.view->form5.HScroll5.SetValue(width);
   }
   void Place(int number, const Vec3& at) { CopyPosition(app.model.Points(0, number), at); }
   Vec3 At(int number) {
@@ -37,7 +38,7 @@ class PreciseEdit : public AppTest {
   }
   static constexpr MouseButton kRight = MouseButton::Right;
 
-  Form5& window = app.form5;
+  Form5& window = app.view->form5;
 };
 
 TEST_F(PreciseEdit, MovesByTheTextInSteps) {
@@ -174,8 +175,8 @@ TEST_F(PreciseEdit, PointRangeShiftsWithinThePart) {
 
 TEST_F(PreciseEdit, LayersShiftAndChooseTheirPoints) {
   Lay(10, 4);
-  app.form5.HScroll20.SetMax(10);
-  app.form5.HScroll25.SetMax(10);
+  app.view->form5.HScroll20.SetMax(10);
+  app.view->form5.HScroll25.SetMax(10);
   window.HScroll2.SetValue(1);
   Press("Command11");
   EXPECT_EQ(window.HScroll1.value(), 0);
@@ -195,10 +196,10 @@ TEST_F(PreciseEdit, SwitchesFacesAndJoinsLayers) {
   app.model.Faces(1, 1).onoff = 0;
   Press("Command12", kRight);
   EXPECT_EQ(app.model.Faces(0, 1).onoff + app.model.Faces(0, 7700).onoff, 0);
-  app.form51.HScroll7.SetValue(2);
-  app.form51.HScroll5.SetValue(3);
+  app.view->form51.HScroll7.SetValue(2);
+  app.view->form51.HScroll5.SetValue(3);
   Press("Command16");
-  app.form51.HScroll7.SetValue(3);
+  app.view->form51.HScroll7.SetValue(3);
   Press("Command16");
   EXPECT_EQ(app.model.Faces(0, 2).onoff, 1);
   EXPECT_EQ(app.model.Faces(0, 1).onoff + app.model.Faces(0, 3).onoff + app.model.Faces(0, 4).onoff, 0);

@@ -3,10 +3,13 @@
 
 #include "app_fixture.h"
 #include "base/files.h"
-#include "windows/form51_view_options.h"
-#include "windows/form55_extrude_profile.h"
-#include "windows/frmsaveprof_profile_files.h"
-#include "windows/revolveprof_revolve_profile.h"
+#include "windows/geometry/form55_extrude_profile.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/geometry/revolveprof_revolve_profile.h"
+#include "windows/profiles/frmsaveprof_profile_files.h"
+#include "windows/profiles/profiles_windows.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -33,7 +36,7 @@ TEST_F(ProfileFilesWindow, WritesItsFiles) {
   PressItem("saveprof");  // cancelled
   EXPECT_FALSE(std::filesystem::exists(folder() / "profiles"));
   AnswerAndPress("all", "saveprof");  // a relative name lies in the working folder
-  EXPECT_EQ(app.frmsaveprof.Text1.text(), "all.txt");
+  EXPECT_EQ(app.profiles->frmsaveprof.Text1.text(), "all.txt");
   EXPECT_EQ(BytesOf(folder() / "all.txt").substr(0, 14), "0 0 0\r\n0 0 0\r\n");
   AnswerAndPress(folder() / "points.txt", "exportprofinfome");
   AnswerAndPress(folder() / "parametric.txt", "exportprofpara");
@@ -42,15 +45,15 @@ TEST_F(ProfileFilesWindow, WritesItsFiles) {
 }
 
 TEST_F(ProfileFilesWindow, EverythingShowsWhatWasOpened) {
-  app.revolveprof.Option2.SetValue(true);  // an open file revolves nothing
+  app.geometry->revolveprof.Option2.SetValue(true);  // an open file revolves nothing
   OpenFileOf("20");
-  EXPECT_EQ(app.revolveprof.HScroll10.value(), 20);
+  EXPECT_EQ(app.geometry->revolveprof.HScroll10.value(), 20);
   EXPECT_EQ(app.model.Profile(0).layerCount, 20);
-  EXPECT_EQ(app.form55.Text29.text(), "20");
-  EXPECT_EQ(app.form51.Label17.caption(), "20");
+  EXPECT_EQ(app.geometry->form55.Text29.text(), "20");
+  EXPECT_EQ(app.view->form51.Label17.caption(), "20");
   EXPECT_EQ(app.model.Part(0).maxfaces, 0);
   OpenFileOf("90");  // more sections than the bar holds
-  EXPECT_EQ(app.revolveprof.HScroll10.value(), 61);
+  EXPECT_EQ(app.geometry->revolveprof.HScroll10.value(), 61);
   EXPECT_EQ(app.model.Profile(1).sectionCount, 90);
   EXPECT_EQ(app.model.Profile(0).count, 36);
   EXPECT_TRUE(app.faults.TakeAll().empty());
@@ -61,8 +64,8 @@ TEST_F(ProfileFilesWindow, AFileCutShortLeavesWhatWasRead) {
   AnswerAndPress(Profiles(), "openprof");
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);
   EXPECT_EQ(app.model.Profile(0).genMoveX, 4);
-  EXPECT_EQ(app.revolveprof.Text21.text(), "4");
-  EXPECT_EQ(app.revolveprof.HScroll10.value(), 36);
+  EXPECT_EQ(app.geometry->revolveprof.Text21.text(), "4");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll10.value(), 36);
   AnswerAndPress(folder() / "missing.txt", "openprof");
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);
 }

@@ -1,13 +1,15 @@
 // The shaded picture through the controls, on a surface that keeps what it was told to draw.
-#include "windows/shaded_view.h"
+#include "windows/view/shaded_view.h"
 
 #include <algorithm>
 
 #include "app_fixture.h"
 #include "graphics/gl_recorder.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/formulas_edit_profile.h"
+#include "windows/profiles/formulas_edit_profile.h"
+#include "windows/profiles/profiles_windows.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -68,8 +70,8 @@ class ShadedWindow : public AppTest {
                        [&](const GlCall& call) { return CallText(call) == text; });
   }
   // Away from the grid of the wire views.
-  int ViewPixel() { return app.form36.Picture1.picture.PixelAt(25, 25); }
-  int PreviewPixel() { return app.form51.Picture3.picture.PixelAt(25, 25); }
+  int ViewPixel() { return app.view->form36.Picture1.picture.PixelAt(25, 25); }
+  int PreviewPixel() { return app.view->form51.Picture3.picture.PixelAt(25, 25); }
 
   FakeSurface::Log log;
 };
@@ -77,13 +79,13 @@ class ShadedWindow : public AppTest {
 TEST_F(ShadedWindow, EachEventRendersOnceAndOnlyWhenLookedAt) {
   EXPECT_EQ(app.shadedPose.RotX, 245);
   EXPECT_EQ(log.opened, 0);
-  const int context = app.shadedView->RenderContext();
-  app.form51.Command2.Press();
-  EXPECT_TRUE(app.form51.Option11.value());
-  EXPECT_EQ(app.form36.Label54.caption(), " SHADED VIEW ");
-  EXPECT_EQ(app.shadedView->RenderContext(), context + 1);
-  app.form51.HScroll13.SetValue(20);
-  app.form51.HScroll1.SetValue(300);
+  const int context = app.view->shadedView->RenderContext();
+  app.view->form51.Command2.Press();
+  EXPECT_TRUE(app.view->form51.Option11.value());
+  EXPECT_EQ(app.view->form36.Label54.caption(), " SHADED VIEW ");
+  EXPECT_EQ(app.view->shadedView->RenderContext(), context + 1);
+  app.view->form51.HScroll13.SetValue(20);
+  app.view->form51.HScroll1.SetValue(300);
   EXPECT_EQ(log.rendered, 0);
   app.shadedPose.RotY = 33;  // after the picture was drawn: not in it
   EXPECT_EQ(ViewPixel(), kDrawn);
@@ -95,42 +97,42 @@ TEST_F(ShadedWindow, EachEventRendersOnceAndOnlyWhenLookedAt) {
   EXPECT_TRUE(HasCall("Viewport 0 0 300 300"));
   EXPECT_TRUE(HasCall("Rotatef 0 0 1 0"));
 
-  app.form51.Option4.SetValue(true);
+  app.view->form51.Option4.SetValue(true);
   EXPECT_EQ(ViewPixel(), kGround);
   EXPECT_EQ(log.rendered, 1);
-  app.form51.Option7.SetValue(true);
-  EXPECT_TRUE(app.form51.Option11.value());
-  EXPECT_EQ(app.shadedView->RenderContext(), context + 2);
+  app.view->form51.Option7.SetValue(true);
+  EXPECT_TRUE(app.view->form51.Option11.value());
+  EXPECT_EQ(app.view->shadedView->RenderContext(), context + 2);
   EXPECT_EQ(ViewPixel(), kDrawn);
-  app.form51.Option1.SetValue(true);
-  app.formulas.view.Option8.Press({});
+  app.view->form51.Option1.SetValue(true);
+  app.profiles->formulas.view.Option8.Press({});
   EXPECT_EQ(ViewPixel(), kDrawn);
 }
 
 TEST_F(ShadedWindow, NoContextIsToldOnceAndLeavesABlankPicture) {
   app.openGl = [] { return nullptr; };
-  app.form51.Command2.Press();
-  app.form51.Check1.SetValue(false);
-  app.form51.Option4.SetValue(true);
-  app.form51.Command2.Press();
+  app.view->form51.Command2.Press();
+  app.view->form51.Check1.SetValue(false);
+  app.view->form51.Option4.SetValue(true);
+  app.view->form51.Command2.Press();
   DragPreview(1, 1, {});
   EXPECT_EQ(platform.TakeMessages(), std::vector<std::string>{"Could not retrieve pixel format!"});
   EXPECT_EQ(ViewPixel(), kGround);
   EXPECT_EQ(PreviewPixel(), kGround);
-  EXPECT_EQ(app.form36.Label54.caption(), " SHADED VIEW ");
+  EXPECT_EQ(app.view->form36.Label54.caption(), " SHADED VIEW ");
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
 TEST_F(ShadedWindow, PictureThatIsTooLargeStaysBlank) {
   log.fits = false;
-  app.form51.Command2.Press();
+  app.view->form51.Command2.Press();
   EXPECT_EQ(ViewPixel(), kGround);
 }
 
 TEST_F(ShadedWindow, FaultIsNotedAndTheRestStands) {
   app.model.Part(0).maxfaces = 1;
   app.model.Faces(0, 1).group = 42;
-  app.form51.Option11.SetValue(true);
+  app.view->form51.Option11.SetValue(true);
   const auto faults = app.faults.TakeAll();
   ASSERT_EQ(faults.size(), 1U);
   EXPECT_TRUE(faults[0].starts_with("DrawShaded: ")) << faults[0];
@@ -139,7 +141,7 @@ TEST_F(ShadedWindow, FaultIsNotedAndTheRestStands) {
 }
 
 TEST_F(ShadedWindow, DragsOverThePreviewTurnAndMove) {
-  const int context = app.shadedView->RenderContext();
+  const int context = app.view->shadedView->RenderContext();
   DragPreview(5.5F, 3, {MouseButton::Left, {}});
   EXPECT_EQ(app.shadedPose.RotX, 248);
   EXPECT_EQ(app.shadedPose.RotY, 0);
@@ -153,13 +155,13 @@ TEST_F(ShadedWindow, DragsOverThePreviewTurnAndMove) {
   DragPreview(9, -0.5F, {MouseButton::Right, {.shift = true}});
   EXPECT_EQ(app.shadedPose.ShadeMoveX, -2);
   EXPECT_EQ(app.shadedPose.ShadeMoveZ, 1);
-  EXPECT_EQ(app.shadedView->RenderContext(), context + 4);
+  EXPECT_EQ(app.view->shadedView->RenderContext(), context + 4);
 
   EXPECT_EQ(PreviewPixel(), kDrawn);
   EXPECT_TRUE(HasCall("Viewport 0 0 120 120"));
   EXPECT_TRUE(HasCall("Translatef -2 2 1"));
   EXPECT_EQ(ViewPixel(), kGround);  // another view is on
-  app.form51.Option11.SetValue(true);
+  app.view->form51.Option11.SetValue(true);
   EXPECT_EQ(ViewPixel(), kDrawn);
   DragPreview(0, 100, {});
   ViewPixel();

@@ -2,11 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "app_fixture.h"
-#include "windows/command_table.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/mdi_form1.h"
+#include "windows/frame/command_table.h"
+#include "windows/frame/frame_windows.h"
+#include "windows/frame/mdi_form1.h"
+#include "windows/view/command_row.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -15,28 +18,28 @@ using Start = AppTest;
 
 TEST_F(Start, OpensOnTheProfileViewAtOneUnitAPixel) {
   EXPECT_TRUE(app.started);
-  EXPECT_EQ(app.mdiForm1.caption(), "Pelorium v2.14");
-  EXPECT_TRUE(app.form36.visible() && app.form51.visible());
-  EXPECT_FALSE(app.form5.visible());
-  EXPECT_EQ(app.form36.left(), 4300);
-  EXPECT_EQ(app.form51.top(), 10);
-  EXPECT_EQ(app.form36.Label54.caption(), " PROFILE VIEW--Front ");
-  EXPECT_EQ(app.form36.Picture1.picture.ScaleWidth(), 964);
-  EXPECT_EQ(app.form36.Picture1.picture.ScaleHeight(), -637);
-  EXPECT_EQ(app.form36.HScroll1.value(), 318);
-  EXPECT_EQ(app.form36.VScroll1.value(), -318);
-  EXPECT_EQ(app.form51.Label3.caption(), "0faces  points 0");
+  EXPECT_EQ(app.frame->mdiForm1.caption(), "Pelorium v2.14");
+  EXPECT_TRUE(app.view->form36.visible() && app.view->form51.visible());
+  EXPECT_FALSE(app.view->form5.visible());
+  EXPECT_EQ(app.view->form36.left(), 4300);
+  EXPECT_EQ(app.view->form51.top(), 10);
+  EXPECT_EQ(app.view->form36.Label54.caption(), " PROFILE VIEW--Front ");
+  EXPECT_EQ(app.view->form36.Picture1.picture.ScaleWidth(), 964);
+  EXPECT_EQ(app.view->form36.Picture1.picture.ScaleHeight(), -637);
+  EXPECT_EQ(app.view->form36.HScroll1.value(), 318);
+  EXPECT_EQ(app.view->form36.VScroll1.value(), -318);
+  EXPECT_EQ(app.view->form51.Label3.caption(), "0faces  points 0");
   EXPECT_EQ(app.shadedPose.RotX, 245);
 }
 
 TEST_F(Start, LimitsOfTheSharedControls) {
-  EXPECT_EQ(app.form5.HScroll2.value(), 36);  // 62 before its limit came down
-  EXPECT_EQ(app.form5.HScroll5.max(), 36);
-  EXPECT_EQ(app.form5.HScroll25.max(), 7700);
-  EXPECT_EQ(app.form5.HScroll25.value(), 0);
-  EXPECT_EQ(app.form5.Text39.text(), "0");
-  EXPECT_EQ(app.form5.HScroll20.value(), 1);
-  EXPECT_EQ(app.form51.HScroll5.value(), 7700);
+  EXPECT_EQ(app.view->form5.HScroll2.value(), 36);  // 62 before its limit came down
+  EXPECT_EQ(app.view->form5.HScroll5.max(), 36);
+  EXPECT_EQ(app.view->form5.HScroll25.max(), 7700);
+  EXPECT_EQ(app.view->form5.HScroll25.value(), 0);
+  EXPECT_EQ(app.view->form5.Text39.text(), "0");
+  EXPECT_EQ(app.view->form5.HScroll20.value(), 1);
+  EXPECT_EQ(app.view->form51.HScroll5.value(), 7700);
 }
 
 TEST_F(Start, EachRunBeginsWithTheSameColours) {
@@ -49,39 +52,40 @@ TEST_F(Start, EachRunBeginsWithTheSameColours) {
 
 TEST_F(Start, ItemsWithoutTheirWindowAreDisabled) {
   for (const char* name : {"triangleobj", "mterials", "opentex", "copypart", "erase"}) {
-    EXPECT_FALSE(app.mdiForm1.Find(name)->enabled()) << name;
+    EXPECT_FALSE(app.frame->mdiForm1.Find(name)->enabled()) << name;
   }
-  for (const char* name : {"rev", "rev1", "extrudeme", "importprofiles", "formulait", "openproj", "memsave", "joinit",
-                           "exiter", "aboutit", "estarea"}) {
-    EXPECT_TRUE(app.mdiForm1.Find(name)->enabled()) << name;
+  for (const char* name : {"rev", "rev1", "extrudeme", "importprofiles", "formulait", "openproj", "memsave",
+                           "joinit", "exiter", "aboutit", "estarea"}) {
+    EXPECT_TRUE(app.frame->mdiForm1.Find(name)->enabled()) << name;
   }
   EXPECT_FALSE(app.Deliver({"MDIForm1", "triangleobj"}));
 }
 
 TEST_F(Start, EveryMenuItemHasItsHeadAndEveryButtonItsItem) {
-  EXPECT_EQ(app.mdiForm1.controls().size(), MenuCommands().size());
+  EXPECT_EQ(app.frame->mdiForm1.controls().size(), MenuCommands().size());
   for (const MenuCommand& command : MenuCommands()) {
-    const auto* item = dynamic_cast<const MenuItem*>(app.mdiForm1.Find(command.name));
+    const auto* item = dynamic_cast<const MenuItem*>(app.frame->mdiForm1.Find(command.name));
     ASSERT_NE(item, nullptr);
     EXPECT_EQ(item->isTopLevel(), command.menu.empty()) << command.name;
   }
   for (const CommandButton& button : CommandButtons()) {
-    EXPECT_TRUE(button.menuItem.empty() || app.mdiForm1.Find(button.menuItem) != nullptr) << button.caption;
+    EXPECT_TRUE(button.menuItem.empty() || app.frame->mdiForm1.Find(button.menuItem) != nullptr)
+        << button.caption;
   }
 }
 
 TEST_F(Start, ViewKeysOfTheButtonRowDoWhatTheMenuDoes) {
   app.Deliver({"Form36", "Command23"});
-  EXPECT_EQ(app.form36.Label54.caption(), " FRONT VIEW");
+  EXPECT_EQ(app.view->form36.Label54.caption(), " FRONT VIEW");
   PressItem("sideview");
-  EXPECT_EQ(app.form36.Label54.caption(), " SIDE VIEW ");
-  EXPECT_FALSE(app.form51.Option2.value());
+  EXPECT_EQ(app.view->form36.Label54.caption(), " SIDE VIEW ");
+  EXPECT_FALSE(app.view->form51.Option2.value());
 }
 
 TEST_F(Start, AToolWindowDisarmsTheMouse) {
-  app.form36.Option7.SetValue(true);
+  app.view->form36.Option7.SetValue(true);
   PressItem("formulait");
-  EXPECT_FALSE(app.form36.Option7.value());
+  EXPECT_FALSE(app.view->form36.Option7.value());
   EXPECT_TRUE(app.FindWindow("Formulas")->visible());
 }
 

@@ -1,12 +1,14 @@
 // Boxes beside bars: what is typed, what counts, what shows when the typing is over.
 #include "app_fixture.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/form55_extrude_profile.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/formulas_edit_profile.h"
-#include "windows/revolveprof_revolve_profile.h"
-#include "windows/specialeffects5_edit_geometry.h"
+#include "windows/geometry/form55_extrude_profile.h"
+#include "windows/geometry/revolveprof_revolve_profile.h"
+#include "windows/geometry/specialeffects5_edit_geometry.h"
+#include "windows/profiles/formulas_edit_profile.h"
+#include "windows/profiles/profiles_windows.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -27,8 +29,8 @@ class TypedBoxes : public AppTest {
 TEST_F(TypedBoxes, AFractionIsWhatThePressUses) {
   ClickAt(368, -398);
   Type("Formulas.Text33", "12.5");
-  EXPECT_EQ(app.formulas.HScroll28.value(), 12);
-  EXPECT_EQ(app.formulas.Text33.text(), "12.5");
+  EXPECT_EQ(app.profiles->formulas.HScroll28.value(), 12);
+  EXPECT_EQ(app.profiles->formulas.Text33.text(), "12.5");
   Press("Formulas", "Command16");
   EXPECT_EQ(app.model.ProfilePts(0, 0).Z, 12.5);
   Type("Form55.Text36", "7.25");  // a setting of a layer
@@ -38,11 +40,11 @@ TEST_F(TypedBoxes, AFractionIsWhatThePressUses) {
 }
 
 TEST_F(TypedBoxes, OutOfRangeTheLimitCountsAndShowsOnceTheTypingIsOver) {
-  TextBox& box = app.formulas.Text33;
+  TextBox& box = app.profiles->formulas.Text33;
   Type("Formulas.Text33", "-");  // the start of -12
   EXPECT_EQ(box.text(), "-");
   Type("Formulas.Text33", "-12");
-  EXPECT_EQ(app.formulas.HScroll28.value(), -12);
+  EXPECT_EQ(app.profiles->formulas.HScroll28.value(), -12);
   Type("Formulas.Text33", "2000");
   EXPECT_EQ(box.text(), "2000");
   EXPECT_EQ(box.Number(), 1500);
@@ -50,25 +52,25 @@ TEST_F(TypedBoxes, OutOfRangeTheLimitCountsAndShowsOnceTheTypingIsOver) {
   EXPECT_EQ(box.text(), "1500");
   EXPECT_EQ(app.model.ProfilePts(0, 0).Z, 1500);
   Type("Form51.Text3", "7");  // the Part's number
-  EXPECT_EQ(app.form51.HScroll4.value(), 1);
+  EXPECT_EQ(app.view->form51.HScroll4.value(), 1);
   app.Deliver({"Form51", "", UserAction::CloseWindow});
-  EXPECT_EQ(app.form51.Text3.text(), "1");
+  EXPECT_EQ(app.view->form51.Text3.text(), "1");
 }
 
 TEST_F(TypedBoxes, ANumberTooLargeIsNone) {
   Type("Form5.Text5", "1e400");
-  EXPECT_EQ(app.form36.Label54.caption(), " PROFILE VIEW--Front ");
-  EXPECT_EQ(app.form36.Picture1.picture.PixelAt(318, 310),
+  EXPECT_EQ(app.view->form36.Label54.caption(), " PROFILE VIEW--Front ");
+  EXPECT_EQ(app.view->form36.Picture1.picture.PixelAt(318, 310),
             static_cast<int>(Rgb(0, 0, 255)));  // the cross at 0
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
 TEST_F(TypedBoxes, BoxesOfOneAmount) {
   Type("Form51.Text1", "9");
-  EXPECT_EQ(app.form51.HScroll2.value(), 9);
+  EXPECT_EQ(app.view->form51.HScroll2.value(), 9);
   MakeCup();
   Type("Form5.Text41", "2.5");
-  EXPECT_EQ(app.form5.HScroll10.value(), 2);
+  EXPECT_EQ(app.view->form5.HScroll10.value(), 2);
   const double before = app.model.Points(0, 1).X;
   Press("specialeffects5", "Command15");
   EXPECT_EQ(app.model.Points(0, 1).X, before + 2.5);

@@ -2,12 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "app_fixture.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/formulas_edit_profile.h"
-#include "windows/shared_parameters.h"
-#include "windows/specialeffects5_edit_geometry.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/geometry/specialeffects5_edit_geometry.h"
+#include "windows/profiles/formulas_edit_profile.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -21,10 +23,10 @@ class ViewMouseTest : public AppTest {
     PlacePoint(2, {-40, 5, 60});
     PlacePoint(3, {0, 0, 0});
     PlacePoint(4, {7, 8, 9});
-    app.form5.HScroll25.SetMax(4);
-    app.form5.HScroll25.SetValue(4);
+    app.view->form5.HScroll25.SetMax(4);
+    app.view->form5.HScroll25.SetValue(4);
     app.model.PointMark(0, 4) = 0;
-    app.form51.Option5.SetValue(true);
+    app.view->form51.Option5.SetValue(true);
   }
 
   void PlacePoint(int number, const Vec3& at) { CopyPosition(app.model.Points(0, number), at); }
@@ -55,14 +57,14 @@ class ViewMouseTest : public AppTest {
 };
 
 TEST_F(ViewMouseTest, MoveTakesATenthOfTheWay) {
-  app.form36.Option7.Press({});
+  app.view->form36.Option7.Press({});
   Drag(100, -100, 120, -130);
   EXPECT_EQ(PointAt(1), (Vec3{112, 44, 22}));
   EXPECT_EQ(PointAt(4), (Vec3{7, 8, 9}));  // not marked
   Drag(100, -100, 120, -130, MouseButton::Right);
   EXPECT_EQ(PointAt(2), (Vec3{-38, 2, 57}));
   Drag(100, -100, 120, -130, MouseButton::Left, true);
-  app.form51.Check4.SetValue(false);
+  app.view->form51.Check4.SetValue(false);
   Drag(100, -100, 120, -130);
   EXPECT_EQ(PointAt(3), (Vec3{2, -6, -3}));
   Mouse(UserAction::MouseMove, 500, -500);  // no button held
@@ -70,7 +72,7 @@ TEST_F(ViewMouseTest, MoveTakesATenthOfTheWay) {
 }
 
 TEST_F(ViewMouseTest, ThePositionIsKeptInWholeUnits) {
-  app.form36.Option7.Press({});
+  app.view->form36.Option7.Press({});
   Drag(100.5F, -99.5F, 101, -100);  // held as 100, -100
   EXPECT_EQ(PointAt(3), (Vec3{0.1, 0, 0}));
   Drag(0, 0, 90000, 0);
@@ -80,7 +82,7 @@ TEST_F(ViewMouseTest, ThePositionIsKeptInWholeUnits) {
 
 TEST_F(ViewMouseTest, RotateTurnsAboutTheOrigin) {
   SetOrigin(app, {10, -3, 2});
-  app.form36.Option8.Press({});
+  app.view->form36.Option8.Press({});
   Drag(100, -100, 190, -130);
   EXPECT_EQ(PointAt(1), (Vec3{111.8975232670984, 46.71635912381677, 8.721487000866826}));
   PlacePoint(1, {110, 47, 22});
@@ -89,7 +91,7 @@ TEST_F(ViewMouseTest, RotateTurnsAboutTheOrigin) {
 }
 
 TEST_F(ViewMouseTest, ScaleGoesByTheSignOfTheDrag) {
-  app.form36.Option9.Press({});
+  app.view->form36.Option9.Press({});
   Drag(100, -100, 101, -100);
   EXPECT_EQ(PointAt(1), (Vec3{110 * 1.01, 47, 22}));
   Drag(100, -100, 100, -300);
@@ -97,41 +99,41 @@ TEST_F(ViewMouseTest, ScaleGoesByTheSignOfTheDrag) {
 }
 
 TEST_F(ViewMouseTest, MoveOriginWritesItsTexts) {
-  app.form5.Text5.SetText("3.5x");
-  app.form5.Text3.SetText("none");
-  app.form36.Option11.Press({});
+  app.view->form5.Text5.SetText("3.5x");
+  app.view->form5.Text3.SetText("none");
+  app.view->form36.Option11.Press({});
   Drag(100, -100, 103, -90, MouseButton::Right);
-  EXPECT_EQ(app.form5.Text5.text(), "3.8");
-  EXPECT_EQ(app.form5.Text9.text(), "1");
-  EXPECT_EQ(app.form5.Text3.text(), "1");
+  EXPECT_EQ(app.view->form5.Text5.text(), "3.8");
+  EXPECT_EQ(app.view->form5.Text9.text(), "1");
+  EXPECT_EQ(app.view->form5.Text3.text(), "1");
 }
 
 TEST_F(ViewMouseTest, TheTriViewWorksInThePictureUnderTheMouse) {
-  app.form51.Option16.SetValue(true);
-  app.form36.Option7.Press({});
+  app.view->form51.Option16.SetValue(true);
+  app.view->form36.Option7.Press({});
   Drag(510, -320, 520, -340);  // Side, 200 to the right: Z across, Y up
   EXPECT_EQ(PointAt(3), (Vec3{0, -2, 1}));
   Drag(320, -110, 330, -130, MouseButton::Right);  // Front, 200 above: Y out
   EXPECT_EQ(PointAt(3), (Vec3{0, -4, 1}));
-  app.form36.Option10.Press({});
+  app.view->form36.Option10.Press({});
   ClickAt(318 + 200 + 22, -318 + 47, MouseButton::Right);  // point 1 in the Side picture
   EXPECT_EQ(app.model.PointMark(0, 1), 0);
 }
 
 TEST_F(ViewMouseTest, CirclePick) {
   SwitchAll(1);
-  app.form36.Option10.Press({});
-  app.specialeffects5.HScroll6.SetValue(50);
+  app.view->form36.Option10.Press({});
+  app.geometry->specialeffects5.HScroll6.SetValue(50);
   ClickAt(318 - 10, -318 + 45, MouseButton::Right);  // 30, 40 from point 2
   EXPECT_EQ(Marks(), "1000");
-  EXPECT_EQ(app.form36.Label16.caption(), "4");
-  EXPECT_EQ(app.form36.Shape5.left, 258);
-  EXPECT_EQ(app.form36.Shape5.top, -223);
-  EXPECT_EQ(app.form36.Shape5.width, 100);
-  app.form51.Option2.SetValue(true);  // Front: point 2 stands at -40, 60
+  EXPECT_EQ(app.view->form36.Label16.caption(), "4");
+  EXPECT_EQ(app.view->form36.Shape5.left, 258);
+  EXPECT_EQ(app.view->form36.Shape5.top, -223);
+  EXPECT_EQ(app.view->form36.Shape5.width, 100);
+  app.view->form51.Option2.SetValue(true);  // Front: point 2 stands at -40, 60
   ClickAt(318 - 40, -318 + 60);
   EXPECT_EQ(Marks(), "1100");
-  app.form51.Option4.SetValue(true);
+  app.view->form51.Option4.SetValue(true);
   ClickAt(318, -318);
   EXPECT_EQ(Marks(), "1100");  // not in the oblique view
   Drag(1, -1, 1, -1, MouseButton::Left, true);
@@ -142,21 +144,21 @@ TEST_F(ViewMouseTest, CirclePick) {
 
 TEST_F(ViewMouseTest, TheRectanglePicksWhileItGrows) {
   SwitchAll(0);
-  app.form36.Option10.Press({});
-  app.specialeffects5.Option3.SetValue(true);
+  app.view->form36.Option10.Press({});
+  app.geometry->specialeffects5.Option3.SetValue(true);
   Drag(318 + 7, -318 + 8, 318 - 40, -318);  // up to point 2's edge
   EXPECT_EQ(Marks(), "0111");
-  EXPECT_EQ(app.form36.Shape5.left, 278);
-  EXPECT_EQ(app.form36.Shape5.height, 8);
-  ASSERT_EQ(app.form36.Picture1.picture.overlay.size(), 1U);
-  app.form51.Check17.SetValue(false);
-  EXPECT_TRUE(app.form36.Picture1.picture.overlay.empty());
+  EXPECT_EQ(app.view->form36.Shape5.left, 278);
+  EXPECT_EQ(app.view->form36.Shape5.height, 8);
+  ASSERT_EQ(app.view->form36.Picture1.picture.overlay.size(), 1U);
+  app.view->form51.Check17.SetValue(false);
+  EXPECT_TRUE(app.view->form36.Picture1.picture.overlay.empty());
 }
 
 // With Shift the press switches the range; letting Shift go, the rectangle reaches from that press.
 TEST_F(ViewMouseTest, AShiftPressSetsTheCornerToo) {
-  app.form36.Option10.Press({});
-  app.specialeffects5.Option3.SetValue(true);
+  app.view->form36.Option10.Press({});
+  app.geometry->specialeffects5.Option3.SetValue(true);
   const auto at = [this](UserAction action, float x, float y, bool shift) {
     app.Deliver({"Form36", "Picture1", action, 0, {}, {MouseButton::Left, {shift, false, false}}, x, y});
   };
@@ -164,23 +166,25 @@ TEST_F(ViewMouseTest, AShiftPressSetsTheCornerToo) {
   SwitchAll(0);
   at(UserAction::MouseMove, 330, -320, false);
   EXPECT_EQ(Marks(), "0011");
-  EXPECT_EQ(app.form36.Shape5.left, 300);
+  EXPECT_EQ(app.view->form36.Shape5.left, 300);
 }
 
 TEST_F(ViewMouseTest, TheLengthShowsWithoutItsLine) {
-  app.form51.Option1.SetValue(true);
-  app.form51.Check15.SetValue(false);
+  app.view->form51.Option1.SetValue(true);
+  app.view->form51.Check15.SetValue(false);
   app.model.Profile(0).count = 1;
   app.Deliver({"Form36", "Picture1", UserAction::MouseMove, 0, {}, {}, 318 + 3, -318 + 4});
-  EXPECT_EQ(app.form36.Label13.caption(), "5");
-  EXPECT_TRUE(app.form36.Picture1.picture.overlay.empty());
+  EXPECT_EQ(app.view->form36.Label13.caption(), "5");
+  EXPECT_TRUE(app.view->form36.Picture1.picture.overlay.empty());
 }
 
 TEST_F(ViewMouseTest, TheBrushHasAPlaneInEveryView) {
   std::vector<std::pair<Axis, Axis>> planes;
-  app.form36.mouse.onBrush = [&](const BrushTouch& touch) { planes.push_back({touch.across, touch.up}); };
-  for (OptionButton* view : {&app.form51.Option5, &app.form51.Option3, &app.form51.Option2,
-                             &app.form51.Option6, &app.form51.Option4}) {
+  app.view->form36.mouse.onBrush = [&](const BrushTouch& touch) {
+    planes.push_back({touch.across, touch.up});
+  };
+  for (OptionButton* view : {&app.view->form51.Option5, &app.view->form51.Option3, &app.view->form51.Option2,
+                             &app.view->form51.Option6, &app.view->form51.Option4}) {
     view->SetValue(true);
     Drag(100, -100, 110, -110);
   }
@@ -189,15 +193,15 @@ TEST_F(ViewMouseTest, TheBrushHasAPlaneInEveryView) {
 }
 
 TEST_F(ViewMouseTest, APlainClickTellsTheNearestPoint) {
-  app.specialeffects5.Option3.SetValue(true);
+  app.geometry->specialeffects5.Option3.SetValue(true);
   ClickAt(318 + 3, -318 + 4);
-  EXPECT_EQ(app.form36.Label16.caption(), "3");
+  EXPECT_EQ(app.view->form36.Label16.caption(), "3");
   ClickAt(318 + 60, -318);  // further than 8 pixels from all
-  EXPECT_EQ(app.form36.Label16.caption(), "3");
+  EXPECT_EQ(app.view->form36.Label16.caption(), "3");
 }
 
 TEST_F(ViewMouseTest, TesselatedClicksAddPoints) {
-  app.form51.Option3.SetValue(true);
+  app.view->form51.Option3.SetValue(true);
   ClickAt(400.7F, -300.2F, MouseButton::Right);
   EXPECT_EQ(PointAt(1), (Vec3{82, 17, 22}));
   EXPECT_EQ(app.TessCount, 2);
@@ -210,11 +214,11 @@ TEST_F(ViewMouseTest, TesselatedClicksAddPoints) {
 }
 
 TEST_F(ViewMouseTest, ASinglePointTakesItsMirrorImageAlong) {
-  app.form5.Check2.SetValue(true);
-  app.form5.HScroll5.SetValue(2);
-  app.form5.Text5.SetText("5");
+  app.view->form5.Check2.SetValue(true);
+  app.view->form5.HScroll5.SetValue(2);
+  app.view->form5.Text5.SetText("5");
   app.model.PointMark(0, 2) = app.model.PointMark(0, 3) = 0;
-  app.form36.Option7.Press({});
+  app.view->form36.Option7.Press({});
   Drag(100, -100, 110, -100);
   EXPECT_EQ(PointAt(1), (Vec3{111, 47, 22}));
   EXPECT_EQ(PointAt(3), (Vec3{-101, 47, 22}));
@@ -224,40 +228,40 @@ TEST_F(ViewMouseTest, ASinglePointTakesItsMirrorImageAlong) {
 }
 
 TEST_F(ViewMouseTest, MovePointMovesTheNearestLayer) {
-  app.form51.Option1.SetValue(true);
+  app.view->form51.Option1.SetValue(true);
   ClickAt(388, -408);
   ClickAt(400, -300);
   app.model.ProfilePts(0, 0).Y = 12.5;
-  app.form36.Option1.Press({});
-  app.form5.Check2.SetValue(true);
-  app.form5.HScroll5.SetValue(5);
+  app.view->form36.Option1.Press({});
+  app.view->form5.Check2.SetValue(true);
+  app.view->form5.HScroll5.SetValue(5);
   Drag(389, -405, 418.5F, -218);
   EXPECT_EQ(app.model.ProfilePts(0, 0).X, 100);
   EXPECT_EQ(app.model.ProfilePts(0, 0).Z, 100);
   EXPECT_EQ(app.model.ProfilePts(0, 0).Y, 12);  // the elevation, half to even
   EXPECT_EQ(app.model.ProfilePts(5, 0).X, -100);
-  EXPECT_EQ(app.form36.Label16.caption(), "0");
+  EXPECT_EQ(app.view->form36.Label16.caption(), "0");
   EXPECT_EQ(app.model.Profile(0).count, 2);  // nothing is drawn
 }
 
 TEST_F(ViewMouseTest, KeysArmTheModes) {
   const auto key = [&](const char* text) { app.Deliver({"Form36", "Picture1", UserAction::Key, 0, text}); };
   key("m");
-  EXPECT_TRUE(app.form36.Option7.value());
+  EXPECT_TRUE(app.view->form36.Option7.value());
   key("m");
-  EXPECT_TRUE(app.form36.Option11.value());
+  EXPECT_TRUE(app.view->form36.Option11.value());
   key("p");
-  EXPECT_TRUE(app.form36.Option10.value());
-  EXPECT_FALSE(app.form36.Option11.value());
+  EXPECT_TRUE(app.view->form36.Option10.value());
+  EXPECT_FALSE(app.view->form36.Option11.value());
   key("p");
-  EXPECT_FALSE(app.form36.IsArmed());
+  EXPECT_FALSE(ArmedTool(app) != Tool::None);
 }
 
 TEST_F(ViewMouseTest, AFaultLetsGoOfTheDrag) {
-  app.form5.HScroll25.SetMax(30000);
-  app.form5.HScroll25.SetValue(30000);
+  app.view->form5.HScroll25.SetMax(30000);
+  app.view->form5.HScroll25.SetValue(30000);
   app.faults.TakeAll();
-  app.form36.Option7.Press({});
+  app.view->form36.Option7.Press({});
   Drag(100, -100, 120, -100);
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);
   Mouse(UserAction::MouseMove, 300, -100);
@@ -269,21 +273,21 @@ TEST_F(ViewMouseTest, TheBackgroundImageLiesBehindTheModel) {
   image.SetPixels({Rgb(200, 100, 31), Rgb(1, 2, 3)});
   platform.SetClipboardPicture(image);
   PressItem("getitclip");
-  const Picture& view = app.form36.Picture1.picture;
-  EXPECT_EQ(app.form36.Picture2.picture.PixelAt(1, 0), static_cast<int>(Rgb(1, 2, 3)));
-  EXPECT_EQ(app.form36.Picture2.picture.PixelAt(2, 0), 0);
-  app.form51.Check1.SetValue(false);
+  const Picture& view = app.view->form36.Picture1.picture;
+  EXPECT_EQ(app.view->form36.Picture2.picture.PixelAt(1, 0), static_cast<int>(Rgb(1, 2, 3)));
+  EXPECT_EQ(app.view->form36.Picture2.picture.PixelAt(2, 0), 0);
+  app.view->form51.Check1.SetValue(false);
   EXPECT_EQ(view.PixelAt(0, 0), static_cast<int>(Rgb(200, 100, 31)));
   ClickAt(0, 0);
-  EXPECT_EQ(app.form36.Label53.caption(), "200 100 31  grey 110");
-  app.form36.HScroll2.SetValue(10);
+  EXPECT_EQ(app.view->form36.Label53.caption(), "200 100 31  grey 110");
+  app.view->form36.HScroll2.SetValue(10);
   EXPECT_EQ(view.PixelAt(0, 0), static_cast<int>(Rgb(64, 64, 64)));
   EXPECT_EQ(view.PixelAt(10, 0), static_cast<int>(Rgb(200, 100, 31)));
   PressItem("senittoboard");
   EXPECT_EQ(platform.ClipboardPicture()->PixelAt(10, 0), static_cast<int>(Rgb(200, 100, 31)));
   PressItem("clearimage");
   EXPECT_EQ(view.PixelAt(10, 0), static_cast<int>(Rgb(64, 64, 64)));
-  EXPECT_EQ(app.form36.Picture2.picture.PixelAt(0, 0), static_cast<int>(Rgb(200, 100, 31)));
+  EXPECT_EQ(app.view->form36.Picture2.picture.PixelAt(0, 0), static_cast<int>(Rgb(200, 100, 31)));
 }
 
 }  // namespace

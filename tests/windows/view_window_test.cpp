@@ -2,13 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "app_fixture.h"
-#include "windows/follow_counts.h"
-#include "windows/form36_view.h"
-#include "windows/form51_view_options.h"
-#include "windows/form5_precise_edit.h"
-#include "windows/formulas_edit_profile.h"
-#include "windows/refresh_views.h"
-#include "windows/shared_parameters.h"
+#include "windows/profiles/formulas_edit_profile.h"
+#include "windows/profiles/profiles_windows.h"
+#include "windows/shell/hooks.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 namespace {
@@ -21,73 +22,73 @@ TEST_F(ViewWindow, ClicksDrawTheProfile) {
   EXPECT_EQ(app.model.ProfilePts(0, 0).X, 70);   // floor(388.75) - 318
   EXPECT_EQ(app.model.ProfilePts(0, 0).Z, -91);  // floor(-408.25) + 318
   EXPECT_EQ(app.model.Profile(0).count, 2);
-  EXPECT_EQ(app.form51.Label17.caption(), "2");
-  EXPECT_EQ(app.form51.HScroll6.value(), 2);
-  EXPECT_EQ(app.formulas.HScroll27.value(), 2);
-  EXPECT_EQ(app.form36.Label16.caption(), "1");
+  EXPECT_EQ(app.view->form51.Label17.caption(), "2");
+  EXPECT_EQ(app.view->form51.HScroll6.value(), 2);
+  EXPECT_EQ(app.profiles->formulas.HScroll27.value(), 2);
+  EXPECT_EQ(app.view->form36.Label16.caption(), "1");
   ClickAt(1, -1, MouseButton::Right);
   EXPECT_EQ(app.model.Profile(0).count, 2);
   EXPECT_EQ(app.model.ProfilePts(2, 0).X, -317);
 }
 
 TEST_F(ViewWindow, SubViewsDrawInTheirPlane) {
-  app.formulas.HScroll28.SetValue(44);
-  app.formulas.view.Option6.SetValue(true);
+  app.profiles->formulas.HScroll28.SetValue(44);
+  app.profiles->formulas.view.Option6.SetValue(true);
   ClickAt(328, -298);
   EXPECT_EQ(app.model.ProfilePts(0, 0).X, 44);
   EXPECT_EQ(app.model.ProfilePts(0, 0).Y, 20);
   EXPECT_EQ(app.model.ProfilePts(0, 0).Z, 10);
-  app.formulas.view.Option7.SetValue(true);
+  app.profiles->formulas.view.Option7.SetValue(true);
   ClickAt(328, -298);
   EXPECT_EQ(app.model.Profile(0).count, 1);  // nothing is drawn in the oblique view
-  app.formulas.view.Option4.SetValue(true);
-  app.form51.Check8.SetValue(false);
+  app.profiles->formulas.view.Option4.SetValue(true);
+  app.view->form51.Check8.SetValue(false);
   ClickAt(328, -298);
   EXPECT_EQ(app.model.Profile(0).count, 1);
 }
 
 TEST_F(ViewWindow, SetToZeroStartsTheProfileOver) {
   ClickAt(388, -408);
-  app.form51.Command17.Press();
+  app.view->form51.Command17.Press();
   EXPECT_EQ(app.model.Profile(0).count, 0);
-  EXPECT_EQ(app.form51.Label17.caption(), "0");
+  EXPECT_EQ(app.view->form51.Label17.caption(), "0");
 }
 
 TEST_F(ViewWindow, LiveLabelsFollowTheMouse) {
   ClickAt(318, -318);
   Mouse(UserAction::MouseMove, 321, -314);
-  EXPECT_EQ(app.form36.Label4.caption(), "3");
-  EXPECT_EQ(app.form36.Label5.caption(), "4");
-  EXPECT_EQ(app.form36.Label13.caption(), "5");
-  ASSERT_EQ(app.form36.Picture1.picture.overlay.size(), 1U);
-  const int before = app.form36.Picture1.picture.PixelAt(400, 100);
+  EXPECT_EQ(app.view->form36.Label4.caption(), "3");
+  EXPECT_EQ(app.view->form36.Label5.caption(), "4");
+  EXPECT_EQ(app.view->form36.Label13.caption(), "5");
+  ASSERT_EQ(app.view->form36.Picture1.picture.overlay.size(), 1U);
+  const int before = app.view->form36.Picture1.picture.PixelAt(400, 100);
   Mouse(UserAction::MouseMove, 500, -50);
-  EXPECT_EQ(app.form36.Picture1.picture.PixelAt(400, 100),
+  EXPECT_EQ(app.view->form36.Picture1.picture.PixelAt(400, 100),
             before);  // the line is over the picture, not in it
-  app.form51.Check15.SetValue(false);
-  EXPECT_TRUE(app.form36.Picture1.picture.overlay.empty());
+  app.view->form51.Check15.SetValue(false);
+  EXPECT_TRUE(app.view->form36.Picture1.picture.overlay.empty());
 }
 
 TEST_F(ViewWindow, ZoomChangesScalesAndPans) {
-  app.form36.Command12.Press(MouseButton::Left);
-  EXPECT_EQ(app.form36.Picture1.picture.ScaleWidth(), 723);
-  EXPECT_EQ(app.form36.VScroll1.value(), -238);
-  EXPECT_EQ(app.form36.HScroll1.value(), 398);
-  app.form51.Command26.Press(MouseButton::Right);
-  EXPECT_EQ(app.form36.Picture1.picture.ScaleWidth(), 903.75);
-  for (int i = 0; i < 40; ++i) app.form36.Command12.Press(MouseButton::Left);
-  EXPECT_GE(app.form36.Picture1.picture.ScaleWidth(), 1);
-  for (int i = 0; i < 80; ++i) app.form36.Command12.Press(MouseButton::Right);
-  EXPECT_LE(app.form36.Picture1.picture.ScaleWidth(), 8000);
+  app.view->form36.Command12.Press(MouseButton::Left);
+  EXPECT_EQ(app.view->form36.Picture1.picture.ScaleWidth(), 723);
+  EXPECT_EQ(app.view->form36.VScroll1.value(), -238);
+  EXPECT_EQ(app.view->form36.HScroll1.value(), 398);
+  app.view->form51.Command26.Press(MouseButton::Right);
+  EXPECT_EQ(app.view->form36.Picture1.picture.ScaleWidth(), 903.75);
+  for (int i = 0; i < 40; ++i) app.view->form36.Command12.Press(MouseButton::Left);
+  EXPECT_GE(app.view->form36.Picture1.picture.ScaleWidth(), 1);
+  for (int i = 0; i < 80; ++i) app.view->form36.Command12.Press(MouseButton::Right);
+  EXPECT_LE(app.view->form36.Picture1.picture.ScaleWidth(), 8000);
 }
 
 TEST_F(ViewWindow, ResizeKeepsUnitsPerPixelAndTheCorner) {
   app.Deliver({"Form36", "Picture1", UserAction::Resize, 0, "", {}, 0, 0, 482, 1274});
-  const Picture& picture = app.form36.Picture1.picture;
+  const Picture& picture = app.view->form36.Picture1.picture;
   EXPECT_EQ(picture.PixelWidth(), 482);
   EXPECT_EQ(picture.ScaleWidth(), 482);
   EXPECT_EQ(picture.ScaleHeight(), -1274);
-  EXPECT_EQ(app.form36.HScroll1.value(), 318);
+  EXPECT_EQ(app.view->form36.HScroll1.value(), 318);
   app.Deliver({"Form36", "Picture1", UserAction::Resize, 0, "", {}, 0, 0, 0, 5});
   EXPECT_EQ(picture.PixelHeight(), 1274);
 }
@@ -95,28 +96,28 @@ TEST_F(ViewWindow, ResizeKeepsUnitsPerPixelAndTheCorner) {
 TEST_F(ViewWindow, ProfileChoiceShowsItsCountAndWritesNothing) {
   app.model.Profile(7).count = 12;
   ClickAt(388, -408);
-  app.form51.HScroll3.SetValue(7);
-  EXPECT_EQ(app.form51.HScroll6.value(), 12);
-  EXPECT_EQ(app.form51.Label17.caption(), "12");
-  app.form51.HScroll3.SetValue(0);
+  app.view->form51.HScroll3.SetValue(7);
+  EXPECT_EQ(app.view->form51.HScroll6.value(), 12);
+  EXPECT_EQ(app.view->form51.Label17.caption(), "12");
+  app.view->form51.HScroll3.SetValue(0);
   EXPECT_EQ(app.model.Profile(7).count, 12);
   EXPECT_EQ(app.model.Profile(0).count, 1);
-  EXPECT_EQ(app.form51.HScroll6.value(), 1);
+  EXPECT_EQ(app.view->form51.HScroll6.value(), 1);
 }
 
 TEST_F(ViewWindow, PartChoiceOpensTheRanges) {
   app.model.Part(1).maxpoints = 9000;
   app.model.Part(1).maxfaces = 50;
   app.model.Part(1).Sections = 60;
-  app.form51.HScroll4.SetValue(1);
+  app.view->form51.HScroll4.SetValue(1);
   EXPECT_EQ(PointRangeStart(app), 1);
   EXPECT_EQ(PointRangeEnd(app), 9000);
-  EXPECT_EQ(app.form5.Text39.text(), "9000");
+  EXPECT_EQ(app.view->form5.Text39.text(), "9000");
   EXPECT_EQ(FaceRangeEnd(app), 50);
-  EXPECT_EQ(app.form5.HScroll11.value(), 1);
-  EXPECT_EQ(app.form5.HScroll5.value(), 61);
-  EXPECT_EQ(app.form51.Label3.caption(), "50faces  points 9000");
-  app.form5.HScroll11.SetValue(0);
+  EXPECT_EQ(app.view->form5.HScroll11.value(), 1);
+  EXPECT_EQ(app.view->form5.HScroll5.value(), 61);
+  EXPECT_EQ(app.view->form51.Label3.caption(), "50faces  points 9000");
+  app.view->form5.HScroll11.SetValue(0);
   EXPECT_EQ(CurrentPart(app), 0);
   EXPECT_EQ(FaceRangeEnd(app), 0);
   EXPECT_EQ(FaceRangeStart(app), 1);
@@ -124,37 +125,37 @@ TEST_F(ViewWindow, PartChoiceOpensTheRanges) {
 }
 
 TEST_F(ViewWindow, OriginIsReadByLeadingNumbers) {
-  app.form5.Text5.SetText("3.5x");
-  app.form5.Text9.SetText("no");
+  app.view->form5.Text5.SetText("3.5x");
+  app.view->form5.Text9.SetText("no");
   EXPECT_EQ(Origin(app), (Vec3{3.5, 0, 0}));
 }
 
 TEST_F(ViewWindow, CalculatorAndItsZero) {
-  app.form51.Command5.Press();
-  EXPECT_EQ(app.form51.Label24.caption(), "10");
-  app.form51.Text9.SetText("0");
-  app.form51.Command5.Press();
-  EXPECT_EQ(app.form51.Label24.caption(), "10");
+  app.view->form51.Command5.Press();
+  EXPECT_EQ(app.view->form51.Label24.caption(), "10");
+  app.view->form51.Text9.SetText("0");
+  app.view->form51.Command5.Press();
+  EXPECT_EQ(app.view->form51.Label24.caption(), "10");
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);
-  app.form51.Text5.SetText("0.3");
-  app.form51.Command3.Press();
-  EXPECT_EQ(app.form51.Label21.caption(), "0.03");
+  app.view->form51.Text5.SetText("0.3");
+  app.view->form51.Command3.Press();
+  EXPECT_EQ(app.view->form51.Label21.caption(), "0.03");
 }
 
 TEST_F(ViewWindow, ShadedScaleFollowsBothBars) {
-  EXPECT_EQ(app.form51.Label33.caption(), ".0007");
-  app.form51.HScroll13.SetValue(25);
-  EXPECT_EQ(app.form51.Label33.caption(), "0.0025");
+  EXPECT_EQ(app.view->form51.Label33.caption(), ".0007");
+  app.view->form51.HScroll13.SetValue(25);
+  EXPECT_EQ(app.view->form51.Label33.caption(), "0.0025");
 }
 
 TEST_F(ViewWindow, FacesStayBehindWithCheck6) {
   MakeCup();
   const double before = app.model.Faces(0, 1).c1X;
   app.model.Points(0, 1).X = 999;
-  app.form51.Check6.SetValue(true);
+  app.view->form51.Check6.SetValue(true);
   SyncFaceCorners(app);
   EXPECT_EQ(app.model.Faces(0, 1).c1X, before);
-  app.form51.Check6.SetValue(false);
+  app.view->form51.Check6.SetValue(false);
   SyncFaceCorners(app);
   EXPECT_EQ(app.model.Faces(0, 1).c1X, 999);
 }

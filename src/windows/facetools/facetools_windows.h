@@ -1,0 +1,15 @@
+// The windows of single faces.
+#pragma once
+
+namespace pelorium {
+
+class App;
+
+struct FacetoolWindows {
+  explicit FacetoolWindows(App& app);
+
+  class EditByFace& editbyface;
+  class FreeFace& freeface;
+};
+
+}  // namespace pelorium

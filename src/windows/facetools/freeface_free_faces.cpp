@@ -1,0 +1,272 @@
+// "freeface".
+#include "windows/facetools/freeface_free_faces.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "base/numbers.h"
+#include "geometry/profiles_to_points.h"
+#include "windows/facetools/editbyface_face_info.h"
+#include "windows/facetools/facetools_windows.h"
+#include "windows/geometry/geometry_windows.h"
+#include "windows/geometry/revolveprof_revolve_profile.h"
+#include "windows/shell/app_shell.h"
+#include "windows/shell/hooks.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
+
+namespace pelorium {
+
+namespace {
+
+constexpr int kFewestFaces = -1;  // one step below none
+
+int Held(const TextBox& box, int low, int high) {
+  return ToInteger<int>(std::clamp<double>(box.Number(), low, high));
+}
+
+// Stores what a person typed or picked, even when the bar stands there already.
+void StoreTyped(ScrollBar& bar, TextBox& box) {
+  if (!bar.TakeTyped(box)) bar.onChange();
+}
+
+void StorePicked(ScrollBar& bar, double number) {
+  const int before = bar.value();
+  bar.Drag(number);
+  if (bar.value() == before) bar.onChange();
+}
+
+}  // namespace
+
+FreeFace::FreeFace(App& app) : ToolWindow(app, "freeface", "freeface") {
+  BindParameters();
+  BindCreation();
+  BindCounts();
+  BindRouting();
+  SetLayout(DeclareLayout());
+}
+
+void FreeFace::BindParameters() {
+  for (auto [bar, box] : {std::pair{&HScroll1, &Text1},
+                          {&HScroll2, &Text2},
+                          {&HScroll3, &Text3},
+                          {&HScroll11, &Text14},
+                          {&HScroll4, &Text4},
+                          {&HScroll5, &Text5},
+                          {&HScroll6, &Text6},
+                          {&HScroll8, &Text8},
+                          {&HScroll7, &Text7},
+                          {&HScroll9, &Text9},
+                          {&HScroll10, &Text10},
+                          {&HScroll14, &Text20},
+                          {&HScroll12, &Text15}}) {
+    Pair(*bar, *box);
+  }
+  Mirror(HScroll13, Text19);
+  Mirror(HScroll15, Text21);
+  for (ScrollBar* bar : {&HScroll3, &HScroll11}) {
+    bar->onChange = [this] { HScroll1.SetValue(HScroll3.value() * HScroll11.value() + 1); };
+  }
+}
+
+void FreeFace::BindCreation() {
+  struct Creation {
+    PushButton& button;
+    void (*append)(ModelStore&, const FreeFaceSettings&);
+  };
+  for (const Creation& c : std::initializer_list<Creation>{{Command1, AppendEndCap},
+                                                           {Command4, AppendBottomCap},
+                                                           {Command5, AppendTopCap},
+                                                           {Command6, AppendStartSideCap},
+                                                           {Command7, AppendEndSideCap},
+                                                           {Command8, AppendSideCap},
+                                                           {Command9, AppendSidePiece},
+                                                           {Command11, AppendRadiating},
+                                                           {Command14, AppendDisjoined},
+                                                           {Command15, AppendStrip}}) {
+    OnEdit(c.button, [this, c] {
+      c.append(app_.model, ReadSettings());
+      FinishAppending();
+    });
+  }
+}
+
+void FreeFace::BindCounts() {
+  Text18.onKeyUp = [this] { app_.model.Part(CurrentPart(app_)).grid.reset(); };
+  for (auto [button, step] : {std::pair{&Command2, 1}, {&Command3, -1}}) {
+    OnEdit(*button, [this, step] { ChangeFaceCount(app_.model.Part(CurrentPart(app_)).maxfaces + step); });
+  }
+  OnEdit(Command12, [this] { ChangeFaceCount(Held(Text21, 0, kMaxFaces)); });
+  Command13.onClick = [this](const Click&) { ImportProfiles(0, kMaxProfile); };
+}
+
+void FreeFace::BindRouting() {
+  struct Corner {
+    ScrollBar& bar;
+    TextBox& box;
+    std::int32_t FaceRec::*point;
+  };
+  for (const Corner& c : std::initializer_list<Corner>{{HScroll16, Text11, &FaceRec::corner1pt},
+                                                       {HScroll17, Text12, &FaceRec::corner2pt},
+                                                       {HScroll18, Text13, &FaceRec::corner3pt}}) {
+    Mirror(c.bar, c.box);
+    OnEdit(
+        c.bar, [this, c] { StoreCorner(c.bar, c.point); }, kRefreshOnly);
+    c.box.onKeyUp = [c] { StoreTyped(c.bar, c.box); };
+    c.box.onDoubleClick = [this, c] {
+      const double picked = Val(app_.view->form36.Label16.caption());
+      if (picked > 0) StorePicked(c.bar, picked);
+    };
+  }
+  Mirror(HScroll19, Text17);
+  OnEdit(HScroll19, [this] { RoutedFace().onoff = Narrow<std::int16_t>(HScroll19.value()); });
+  Text17.onKeyUp = [this] { StoreTyped(HScroll19, Text17); };
+  HScroll12.onChange = [this] { HScroll12_Change(); };
+  OnEdit(
+      Command10, [this] { Command10_Click(); }, kRefreshOnly);
+}
+
+FreeFaceSettings FreeFace::ReadSettings() const {
+  FreeFaceSettings s;
+  s.part = CurrentPart(app_);
+  s.fanStart = HScroll1.value();
+  s.fanFaces = HScroll2.value();
+  s.pointsPerLayer = HScroll11.value();
+  s.capSide = HScroll4.value();
+  s.capFirstLayer = HScroll6.value();
+  s.capLastLayer = HScroll5.value();
+  s.pieceSide = HScroll8.value();
+  s.pieceFirstLayer = HScroll9.value();
+  s.pieceLastLayer = HScroll7.value();
+  s.pieceOffset = HScroll10.value();
+  s.runStart = HScroll13.value();
+  s.radiatingStart = Held(Text19, 1, kMaxPoints);
+  s.runFaces = HScroll14.value();
+  s.stripWidth = Held(Text22, 0, kMaxPoints);
+  s.stripIsClosed = app_.geometry->revolveprof.Check4.value();
+  ReadBody(s);
+  return s;
+}
+
+// The body that a cap closes: what the generator laid; by hand the same, as long as the Part is what was laid
+// last; else what Revolve Profile says. The last point of a laid row stands where the first one does, or will
+// be joined to it.
+void FreeFace::ReadBody(FreeFaceSettings& s) const {
+  const auto& grid = app_.model.Part(CurrentPart(app_)).grid;
+  if (pressedBody_ || grid) {
+    s.body = pressedBody_ ? *pressedBody_ : *grid;
+    s.capFaces = s.body.width - 2;
+  } else {
+    const int sections = app_.geometry->revolveprof.HScroll10.value();
+    s.body = {sections + Held(Text18, -kMaxPoints, kMaxPoints), app_.geometry->revolveprof.HScroll22.value()};
+    s.capFaces = sections - 1;
+  }
+}
+
+void FreeFace::PressCap(Cap cap, const LaidGrid& body) {
+  if (body.rows < 1) return;
+  const std::array<PushButton*, 4> buttons = {&Command4, &Command5, &Command6, &Command7};
+  pressedBody_ = body;
+  buttons[static_cast<std::size_t>(cap)]->Press();
+  pressedBody_.reset();
+}
+
+void FreeFace::SetRange(int faces, int pointsPerLayer) {
+  HScroll2.SetValue(HScroll2.Clamped(faces));
+  HScroll11.SetValue(HScroll11.Clamped(pointsPerLayer));
+}
+
+void FreeFace::MakeEndCap(int layer, std::optional<int> start) {
+  HScroll3.SetValue(HScroll3.Clamped(layer));
+  if (!start) return;
+  HScroll1.SetValue(HScroll1.Clamped(*start));
+  Command1.Press();
+}
+
+void FreeFace::FinishAppending() {
+  PartHeader& part = app_.model.Part(CurrentPart(app_));
+  const std::string counts =
+      "faces " + std::to_string(part.maxfaces) + " points " + std::to_string(part.maxpoints);
+  app_.view->form5.Label1.SetCaption(counts);
+  app_.view->form51.Label3.SetCaption(counts);
+  part.minfaces = 1;
+  FollowFaces(app_);
+}
+
+void FreeFace::ChangeFaceCount(int count) {
+  app_.model.Part(CurrentPart(app_)).maxfaces =
+      Narrow<std::int16_t>(std::clamp(count, kFewestFaces, kMaxFaces));
+  FollowFaces(app_);
+}
+
+void FreeFace::ImportProfiles(int first, int last) {
+  Edit(Command13, [&] {
+    ImportProfilePoints(app_.model, CurrentPart(app_), first, last);
+    app_.model.Part(CurrentPart(app_)).grid.reset();
+    FollowCounts(app_);
+  });
+}
+
+FaceRec& FreeFace::RoutedFace() { return app_.model.Faces(CurrentPart(app_), HScroll12.value()); }
+
+void FreeFace::StoreCorner(const ScrollBar& bar, std::int32_t FaceRec::*corner) {
+  RoutedFace().*corner = bar.value();
+  SyncFaceCorners(app_);
+  ScrollBar& chosenPoint = app_.facetools->editbyface.VScroll1;  // the views draw it larger
+  chosenPoint.SetValue(chosenPoint.Clamped(bar.value()));
+}
+
+void FreeFace::CountsChanged(Counts which) {
+  if (which == Counts::Points) return;
+  Text16.SetText(std::to_string(app_.model.Part(CurrentPart(app_)).maxfaces));
+  HScroll12_Change();
+}
+
+void FreeFace::HScroll12_Change() {
+  const FaceRec& face = RoutedFace();
+  HScroll16.Show(face.corner1pt);
+  HScroll17.Show(face.corner2pt);
+  HScroll18.Show(face.corner3pt);
+  HScroll19.Show(face.onoff);
+}
+
+void FreeFace::Command10_Click() {
+  FaceRec& face = RoutedFace();
+  face.corner1pt = Held(Text11, 1, kMaxPoints);
+  face.corner2pt = Held(Text12, 1, kMaxPoints);
+  face.corner3pt = Held(Text13, 1, kMaxPoints);
+  face.onoff = Narrow<std::int16_t>(Held(Text17, 0, 1));
+  PartHeader& part = app_.model.Part(CurrentPart(app_));
+  part.maxfaces = std::max(part.maxfaces, Narrow<std::int16_t>(HScroll12.value()));
+  FinishAppending();
+  SyncFaceCorners(app_);
+  HScroll12.SetValue(HScroll12.Clamped(HScroll12.value() + 1));
+}
+
+// One narrow column: the picture stays in sight while faces are made.
+LayoutItem FreeFace::DeclareLayout() {
+  return Column({
+      Frame("Endcap", {BarRow(HScroll1, {&Text1}), BarRow(HScroll2, {&Text2}), BarRow(HScroll3, {&Text3}),
+                       BarRow(HScroll11, {&Text14}), Flow({&Command1}), Labelled("Extra pts per row", Text18),
+                       Flow({&Command4, &Command5})}),
+      Frame("Side Cap", {BarRow(HScroll4, {&Text4}), BarRow(HScroll5, {&Text5}), BarRow(HScroll6, {&Text6}),
+                         Flow({&Command8, &Command6, &Command7})}),
+      Frame("Side Piece", {BarRow(HScroll8, {&Text8}), BarRow(HScroll7, {&Text7}), BarRow(HScroll9, {&Text9}),
+                           BarRow(HScroll10, {&Text10}), Flow({&Command9})}),
+      Frame("Create Faces",
+            {BarRow(HScroll13, {&Text19}), BarRow(HScroll14, {&Text20}), Flow({&Command11, &Command14}),
+             Labelled("Pts per row", Text22), Flow({&Command15})}),
+      Frame("Total", {BarRow(HScroll15, {&Text21}), Labelled("Faces", Text16),
+                      Flow({&Command2, &Command3, &Command12, &Command13})}),
+      Frame("Face Routing",
+            {BarRow(HScroll12, {&Text15}), BarRow(HScroll16, {&Text11}), BarRow(HScroll17, {&Text12}),
+             BarRow(HScroll18, {&Text13}), BarRow(HScroll19, {&Text17}), Flow({&Command10})},
+            "Create obj face by selection"),
+  });
+}
+
+}  // namespace pelorium

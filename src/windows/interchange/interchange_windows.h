@@ -1,0 +1,14 @@
+// The windows of models and maps to and from other programs.
+#pragma once
+
+namespace pelorium {
+
+class App;
+
+struct InterchangeWindows {
+  explicit InterchangeWindows(App& app);
+
+  class Form14& form14;
+};
+
+}  // namespace pelorium

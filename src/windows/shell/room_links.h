@@ -1,0 +1,46 @@
+// What rooms ask of rooms above them or beside them. Each link is filled in by the room that can answer, when
+// it is built; the functions that ask stand in hooks.h and readers.h.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "core/model_store.h"
+#include "views/view_settings.h"
+
+namespace pelorium {
+
+enum class Cap { Bottom, Top, Start, End };
+
+// How points are picked in the view.
+struct PickShapeSettings {
+  bool isCircle = true;
+  double radius = 50;  // of the circle, units
+};
+
+struct RoomLinks {
+  // frame
+  std::function<void()> start;  // the load of the main frame
+
+  // view
+  std::function<void()> refreshViews, drawNow, syncFaceCorners;
+
+  // profiles
+  std::function<Projection()> subView;  // of the profile view
+  std::function<double()> elevation;    // of points that are drawn into a profile
+
+  // geometry
+  std::function<PickShapeSettings()> pickShape;
+  std::function<void(int sections)> showSections;  // "Sections" of Revolve Profile, held in its bar
+
+  // facetools
+  std::function<int()> chosenPoint, chosenFace;  // of the current Part, as the views mark them
+  // Closes a body that was just laid; one without rows gets no cap.
+  std::function<void(Cap cap, const LaidGrid& body)> pressCap;
+  // What an end cap takes: its faces, and the points of a layer.
+  std::function<void(int faces, int pointsPerLayer)> freeFaceRange;
+  // Chooses the layer of an end cap, and makes the cap when it has a start point.
+  std::function<void(int layer, std::optional<int> start)> endCap;
+};
+
+}  // namespace pelorium

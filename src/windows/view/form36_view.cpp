@@ -1,0 +1,202 @@
+// The "View and edit window".
+#include "windows/view/form36_view.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "views/zoom.h"
+#include "windows/shell/app_shell.h"
+#include "windows/shell/hooks.h"
+#include "windows/view/command_row.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/shaded_view.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
+
+namespace pelorium {
+
+namespace {
+
+// A step of the buttons that turn and move the shaded picture: degrees or model units.
+constexpr double kPoseStep = 15;
+
+struct PoseButton {
+  const char *name, *caption, *toolTip;
+  float ShadedPose::*turn;
+  double ShadedPose::*move;
+};
+
+constexpr PoseButton kPoseButtons[] = {
+    {"Command27", "Z", "shaded view: turns about Z, right button by 15 degrees, left button back",
+     &ShadedPose::RotZ, nullptr},
+    {"Command28", "Y", "shaded view: tilts (about X), right button by 15 degrees, left button back",
+     &ShadedPose::RotX, nullptr},
+    {"Command29", "X", "shaded view: spins (about Y), right button by 15 degrees, left button back",
+     &ShadedPose::RotY, nullptr},
+    {"Command30", "X", "shaded view: moves across, right button by 15 units, left button back", nullptr,
+     &ShadedPose::ShadeMoveX},
+    {"Command31", "Y", "shaded view: moves up, right button by 15 units, left button back", nullptr,
+     &ShadedPose::ShadeMoveY},
+    {"Command32", "Z", "shaded view: moves into the picture, right button by 15 units, left button back",
+     nullptr, &ShadedPose::ShadeMoveZ},
+};
+
+}  // namespace
+
+Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mouse(app) {
+  Picture1.followsWindow = true;
+  Picture1.onMouseDown = [this](const MouseEvent& event) { mouse.Down(event); };
+  Picture1.onMouseMove = [this](const MouseEvent& event) { mouse.Move(event); };
+  Picture1.onMouseUp = [this](const MouseEvent&) { mouse.Up(); };
+  Picture1.onResize = [this](int width, int height) { Picture1_Resize(width, height); };
+  Picture1.onKey = [this](char character) { Picture1_KeyPress(character); };
+  Picture1.picture.SetScale(15, -15);
+  Picture2.picture.backColour = Rgb(0, 0, 0);
+  Picture2.picture.Clear();
+  for (ScrollBar* pan : {&HScroll1, &VScroll1}) pan->onChange = [this] { RefreshViews(app_); };
+  Command12.onClick = [this](const Click& click) { ZoomByButton(click); };
+  Command16.onClick = [this](const Click&) { app_.view->shadedView->DrawShaded(); };
+  for (Control* hidden : std::initializer_list<Control*>{&Command16, &HScroll3}) hidden->SetVisible(false);
+  Home.onClick = [this](const Click&) { ResetView(); };
+  for (auto [pan, box] : {std::pair{&HScroll2, &Text1}, {&VScroll2, &Text2}}) {
+    Pair(*pan, *box);
+    pan->onChange = [this] { MoveBackground(); };
+  }
+  MakePoseButtons();
+  commandRow = MakeCommandRow(*this);
+  SetLayout(DeclareLayout());
+}
+
+void Form36::MakePoseButtons() {
+  for (const PoseButton& row : kPoseButtons) {
+    poseButtons.push_back(std::make_unique<PushButton>(*this, row.name, row.caption, row.toolTip));
+    poseButtons.back()->onClick = [this, &row](const Click& click) {
+      const double step = click.IsRight() ? kPoseStep : -kPoseStep;
+      if (row.turn != nullptr) app_.shadedPose.*row.turn += static_cast<float>(step);
+      if (row.move != nullptr) app_.shadedPose.*row.move += step;
+      RefreshViews(app_);
+    };
+  }
+}
+
+LayoutItem Form36::DeclareLayout() {
+  std::vector<Control*> row;
+  for (const auto& button : commandRow) row.push_back(button.get());
+  std::vector<LayoutItem> totals = {Labelled("totalpoints", Label39), Labelled("total tri faces", Label47),
+                                    Labelled("total tri faces", Label49)};
+  for (std::size_t i = 0; i < poseButtons.size(); ++i) {
+    if (i == 0) totals.push_back(Single(turnLabel));
+    if (i == poseButtons.size() / 2) totals.push_back(Single(moveLabel));
+    totals.push_back(Single(*poseButtons[i]));
+  }
+  return Column({
+      Flow(std::move(row)),
+      Flow({&Option7, &Option8, &Option9, &Option10, &Option11, &Option1, &Command12, &Home}),
+      Row({Single(Label54), Labelled("Layer or Point:", Label16), Labelled("loc x", Label4),
+           Labelled("loc y (or z)", Label5), Labelled("length", Label13)}),
+      Row(std::move(totals)),
+      Row({BarRow(HScroll2, {&Text1}), BarRow(VScroll2, {&Text2}), Labelled("grey level", Label53)}),
+      Stretching(Row({Stretching(Single(Picture1)), Single(VScroll1)})),
+      Single(HScroll1),
+  });
+}
+
+void Form36::Load() {
+  ResetView();
+  app_.view->form51.Option1.SetValue(true);
+}
+
+// One unit a pixel. The pan X is half the height, not half the width: a zoom moves both pans by the height's
+// change, and from there the origin stays in sight for two steps either way.
+void Form36::ResetView() {
+  Picture& picture = Picture1.picture;
+  picture.SetScale(picture.PixelWidth(), -picture.PixelHeight());
+  const int half = picture.PixelHeight() / 2;
+  HScroll1.SetValue(HScroll1.Clamped(half));
+  VScroll1.SetValue(VScroll1.Clamped(-half));
+  RefreshViews(app_);  // the pans may stand there already
+}
+
+// Units per pixel and the top left corner stay where they are.
+void Form36::Picture1_Resize(int pixelWidth, int pixelHeight) {
+  Picture& picture = Picture1.picture;
+  const double width = picture.ScaleWidth() * pixelWidth / picture.PixelWidth();
+  const double height = picture.ScaleHeight() * pixelHeight / picture.PixelHeight();
+  picture.Resize(pixelWidth, pixelHeight);
+  picture.SetScale(width, height);
+  app_.started ? RefreshViews(app_) : ResetView();
+}
+
+void Form36::ZoomByButton(const Click& click) {
+  Picture& picture = Picture1.picture;
+  const double oldHeight = picture.ScaleHeight();
+  if (!Zoom(picture, click.IsRight() ? kZoomOut : kZoomIn)) return;
+  const int back = PanAfterZoom(oldHeight, picture.ScaleHeight());
+  VScroll1.SetValue(VScroll1.Clamped(VScroll1.value() - back));
+  HScroll1.SetValue(HScroll1.Clamped(HScroll1.value() - back));
+  RefreshViews(app_);  // the pans may both stand at their limits
+}
+
+// m arms Move, and Move Origin when Move is armed already; a letter of an armed mode disarms it.
+void Form36::Picture1_KeyPress(char character) {
+  switch (character) {
+    case 'm':
+      return (Option7.value() ? Option11 : Option7).SetValue(true);
+    case 'r':
+      return Option8.Press({});
+    case 's':
+      return Option9.Press({});
+    case 'p':
+      return Option10.Press({});
+    case 'o':
+      return Option1.Press({});
+    case '-':
+      if (Zoom(Picture1.picture, kZoomOutGently)) RefreshViews(app_);
+      return;
+    default:
+      return;
+  }
+}
+
+void Form36::ShowTotals() {
+  Label39.SetCaption(std::to_string(app_.model.Part(CurrentPart(app_)).maxpoints));
+  Label47.SetCaption(std::to_string(app_.model.Part(0).maxfaces));
+  Label49.SetCaption(std::to_string(app_.model.Part(1).maxfaces));
+}
+
+void Form36::DisarmModes() {
+  for (OptionButton* mode : {&Option1, &Option7, &Option8, &Option9, &Option10, &Option11}) {
+    mode->SetValue(false);
+  }
+}
+
+void Form36::ShowGreyLevel(Colour colour) {
+  const int red = Red(colour), green = Green(colour), blue = Blue(colour);
+  Label53.SetCaption(std::to_string(red) + " " + std::to_string(green) + " " + std::to_string(blue) +
+                     "  grey " + std::to_string(GrayLevel(static_cast<int>(colour))));
+}
+
+void Form36::ShowBackground() {
+  const Picture& image = Picture2.picture;
+  Picture1.picture.SetBackdrop(std::make_shared<Backdrop>(
+      Backdrop{image.PixelWidth(), image.PixelHeight(), image.Pixels(), HScroll2.value(), VScroll2.value()}));
+  RefreshViews(app_);
+}
+
+void Form36::ClearBackground() {
+  Picture1.picture.SetBackdrop(nullptr);
+  Label53.SetCaption({});
+  RefreshViews(app_);
+}
+
+void Form36::MoveBackground() {
+  if (!Picture1.picture.backdrop()) return;
+  auto moved = std::make_shared<Backdrop>(*Picture1.picture.backdrop());
+  moved->left = HScroll2.value();
+  moved->top = VScroll2.value();
+  Picture1.picture.SetBackdrop(std::move(moved));
+  RefreshViews(app_);
+}
+
+}  // namespace pelorium

@@ -1,0 +1,16 @@
+// Draws the picture of the model.
+#pragma once
+
+#include "views/view_settings.h"
+
+namespace pelorium {
+
+class App;
+
+// What the views show, from the controls that say so.
+ViewSettings GatherViewSettings(const App& app);
+
+// The view's side of the calls that end every operation.
+void LinkViews(App& app);
+
+}  // namespace pelorium
