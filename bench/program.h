@@ -28,7 +28,7 @@ inline void MeasureDrags(benchmark::State& state, App& app, const std::string& w
   for (auto _ : state) {
     event.value = event.value == first ? second : first;
     app.Deliver(event);
-    benchmark::DoNotOptimize(app.view->form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(app.view->form36.Picture1.picture().Pixels().data());
   }
 }
 

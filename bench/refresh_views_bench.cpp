@@ -32,7 +32,7 @@ void RefreshFullTables(benchmark::State& state) {
   ShowAll(program.app);
   for (auto _ : state) {
     RefreshViews(program.app);
-    benchmark::DoNotOptimize(program.app.view->form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(program.app.view->form36.Picture1.picture().Pixels().data());
   }
 }
 BENCHMARK(RefreshFullTables)->Unit(benchmark::kMillisecond);

@@ -37,7 +37,7 @@ void ShadedDragEvent(benchmark::State& state) {
   for (auto _ : state) {
     event.x = event.x == 0 ? 3 : 0;
     app.Deliver(event);
-    benchmark::DoNotOptimize(app.view->form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(app.view->form36.Picture1.picture().Pixels().data());
   }
 }
 BENCHMARK(ShadedDragEvent)
@@ -101,7 +101,7 @@ void WireOfTheSame(benchmark::State& state) {
   program.app.view->form51.Option4.SetValue(true);
   for (auto _ : state) {
     RefreshViews(program.app);
-    benchmark::DoNotOptimize(program.app.view->form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(program.app.view->form36.Picture1.picture().Pixels().data());
   }
 }
 BENCHMARK(WireOfTheSame)->Unit(benchmark::kMillisecond)->UseRealTime();

@@ -29,7 +29,7 @@ void MeasureMode(benchmark::State& state, OptionButton Form36::*mode, MouseButto
   for (auto _ : state) {
     way = way == 0 ? 10.0F : 0.0F;
     SendMouse(app, UserAction::MouseMove, 400 + way, -300 - way, button);
-    benchmark::DoNotOptimize(app.view->form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(app.view->form36.Picture1.picture().Pixels().data());
   }
 }
 
@@ -44,7 +44,7 @@ void Redraw(benchmark::State& state) {
   ShowFullPart(app);
   for (auto _ : state) {
     app.view->form51.Command1.Press();
-    benchmark::DoNotOptimize(app.view->form36.Picture1.picture.Pixels().data());
+    benchmark::DoNotOptimize(app.view->form36.Picture1.picture().Pixels().data());
   }
 }
 

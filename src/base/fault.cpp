@@ -49,11 +49,15 @@ Fault Fault::At(const std::string& place) const {
 }
 
 void FaultLog::Note(std::string_view where, const std::exception& fault) {
-  std::string line = std::string(where) + ": " + fault.what();
-  if (LogsToStandardError()) std::fprintf(stderr, "fault: %s\n", line.c_str());
+  NoteLine(std::string(where) + ": " + fault.what());
+}
+
+void FaultLog::NoteLine(const std::string& line) {
+  ++count_;
+  if (!isQuiet && LogsToStandardError()) std::fprintf(stderr, "fault: %s\n", line.c_str());
   if (onNote) onNote(line);
   if (lines_.size() < kCapacity) {
-    lines_.push_back(std::move(line));
+    lines_.push_back(line);
   } else {
     ++dropped_;
   }

@@ -47,6 +47,13 @@ class FaultLog {
   // `where` names the handler, as "Form31.Command15". With PELORIUM_LOG=1 set the line also goes to standard
   // error.
   void Note(std::string_view where, const std::exception& fault);
+  void NoteLine(const std::string& line);
+
+  // Faults noted so far, taken or not.
+  std::size_t count() const { return count_; }
+
+  // Never goes to standard error.
+  bool isQuiet = false;
 
   // Hears of each line as it is noted.
   std::function<void(const std::string& line)> onNote;
@@ -56,7 +63,7 @@ class FaultLog {
 
  private:
   std::vector<std::string> lines_;
-  std::size_t dropped_ = 0;
+  std::size_t count_ = 0, dropped_ = 0;
 };
 
 // Runs `body`; a fault ends it quietly and is noted. What was written up to then stays. False after a fault.

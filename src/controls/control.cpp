@@ -55,6 +55,7 @@ void Control::SetEnabled(bool enabled) {
 }
 
 void Control::SetVisible(bool visible) {
+  if (visible != visible_) BeforeShowingOrHiding();
   visible_ = visible;
   NotifyChanged();
 }

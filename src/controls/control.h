@@ -80,6 +80,9 @@ class Control {
   void NotifyChanged();
 
  private:
+  // The face will show what the control holds, or no longer.
+  virtual void BeforeShowingOrHiding() {}
+
   Window& owner_;
   ControlKind kind_;
   std::string name_, caption_, toolTip_;

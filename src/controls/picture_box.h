@@ -17,7 +17,24 @@ class PictureBox : public Control {
  public:
   PictureBox(Window& owner, std::string name, int pixelWidth, int pixelHeight, std::string toolTip = {});
 
-  Picture picture;
+  // The picture as it is to be seen, or to be drawn on: what is stale is drawn first.
+  Picture& picture() {
+    if (isStale_) DrawStale();
+    return picture_;
+  }
+  const Picture& picture() const { return const_cast<PictureBox*>(this)->picture(); }
+  // Its size and scale, and the places of pixels. What is stale stays so.
+  const Picture& measures() const { return picture_; }
+  // The shapes over it, which are no pixels.
+  std::vector<OverlayShape>& overlay() { return picture_.overlay; }
+
+  // The pixels no longer show what they should: onDraw paints them when someone looks, or at DrawStale. A box without
+  // onDraw never is stale.
+  void MarkStale();
+  void DrawStale();
+  bool isStale() const { return isStale_; }
+  std::function<void(Picture&)> onDraw;
+
   // True when the box takes the size its window gives it; the picture is then resized through onResize.
   bool followsWindow = false;
 
@@ -29,6 +46,12 @@ class PictureBox : public Control {
   std::function<void(int pixelWidth, int pixelHeight)> onResize;
 
   void Resize(int pixelWidth, int pixelHeight);
+
+ private:
+  void BeforeShowingOrHiding() override { DrawStale(); }
+
+  Picture picture_;
+  bool isStale_ = false;
 };
 
 }  // namespace pelorium

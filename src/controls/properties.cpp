@@ -59,9 +59,9 @@ Property BarStep(std::string_view name, int ScrollBar::*field) {
 
 Property PenColour(std::string_view name, Colour Picture::*field) {
   return {name,
-          ReadOf<PictureBox>([field](const PictureBox& p) { return static_cast<double>(p.picture.*field); }),
+          ReadOf<PictureBox>([field](const PictureBox& p) { return static_cast<double>(p.picture().*field); }),
           WriteOf<PictureBox>([field](PictureBox& p, const PropertyValue& v) {
-            p.picture.*field = ToInteger<Colour>(AsNumber(v));
+            p.picture().*field = ToInteger<Colour>(AsNumber(v));
           })};
 }
 
@@ -102,20 +102,20 @@ std::vector<Property> BarAndTextProperties() {
 
 std::vector<Property> PictureProperties() {
   return {
-      {"pixelwidth", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.picture.PixelWidth()); }), {}},
-      {"pixelheight", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.picture.PixelHeight()); }), {}},
-      {"scalewidth", ReadOf<PictureBox>([](const PictureBox& p) { return p.picture.ScaleWidth(); }),
+      {"pixelwidth", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.measures().PixelWidth()); }), {}},
+      {"pixelheight", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.measures().PixelHeight()); }), {}},
+      {"scalewidth", ReadOf<PictureBox>([](const PictureBox& p) { return p.measures().ScaleWidth(); }),
        WriteOf<PictureBox>([](PictureBox& p, const PropertyValue& v) {
-         p.picture.SetScale(AsNumber(v), p.picture.ScaleHeight());
+         p.picture().SetScale(AsNumber(v), p.measures().ScaleHeight());
        })},
-      {"scaleheight", ReadOf<PictureBox>([](const PictureBox& p) { return p.picture.ScaleHeight(); }),
+      {"scaleheight", ReadOf<PictureBox>([](const PictureBox& p) { return p.measures().ScaleHeight(); }),
        WriteOf<PictureBox>([](PictureBox& p, const PropertyValue& v) {
-         p.picture.SetScale(p.picture.ScaleWidth(), AsNumber(v));
+         p.picture().SetScale(p.measures().ScaleWidth(), AsNumber(v));
        })},
       PenColour("forecolor", &Picture::foreColour),
       PenColour("backcolor", &Picture::backColour),
-      {"drawwidth", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.picture.drawWidth); }),
-       WriteOf<PictureBox>([](PictureBox& p, const PropertyValue& v) { p.picture.drawWidth = WholeOf(v); })},
+      {"drawwidth", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.picture().drawWidth); }),
+       WriteOf<PictureBox>([](PictureBox& p, const PropertyValue& v) { p.picture().drawWidth = WholeOf(v); })},
   };
 }
 

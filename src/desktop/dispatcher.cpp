@@ -66,7 +66,7 @@ void Dispatcher::RunHandlers(const UserEvent& event) {
   if (onDelivering) onDelivering();
   isBusy_ = true;
   journal_.BeginDelivery();
-  Trapped(app_.faults, event.window + "." + event.control, [&] { app_.Deliver(event); });
+  app_.Deliver(event);
   journal_.EndDelivery();
   isBusy_ = false;
   if (onDelivered) onDelivered();

@@ -10,6 +10,7 @@
 #include "desktop/picture_widget.h"
 #include "desktop/qt_text.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/hooks.h"
 
 namespace pelorium {
 
@@ -118,6 +119,7 @@ void Face::ShowProgress(Control& control) {
   const auto now = std::chrono::steady_clock::now();
   if (found == views_.end() || now - lastProgress_ < kBetweenProgress) return;
   lastProgress_ = now;
+  DrawNow(app_);
   found->second->Sync();
   found->second->widget()->repaint();
 }

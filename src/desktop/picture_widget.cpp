@@ -55,13 +55,13 @@ void PictureWidget::Sync() {
 
 void PictureWidget::FitToPicture() {
   if (box_.followsWindow) return;
-  const QSize size(box_.picture.PixelWidth(), box_.picture.PixelHeight());
+  const QSize size(box_.measures().PixelWidth(), box_.measures().PixelHeight());
   if (minimumSize() != size || maximumSize() != size) setFixedSize(size);
 }
 
 void PictureWidget::ShowPresent() {
   if (!isVisible()) return;
-  if (box_.picture.Revision() == shownRevision_ && box_.picture.overlay == shownOverlay_) return;
+  if (box_.picture().Revision() == shownRevision_ && box_.overlay() == shownOverlay_) return;
   FitToPicture();
   repaint();
 }
@@ -70,7 +70,7 @@ void PictureWidget::ShowPresent() {
 // the window can be made smaller again.
 QSize PictureWidget::sizeHint() const {
   if (box_.followsWindow && wasShown_) return kLeastFollowingSize;
-  return {box_.picture.PixelWidth(), box_.picture.PixelHeight()};
+  return {box_.measures().PixelWidth(), box_.measures().PixelHeight()};
 }
 
 void PictureWidget::showEvent(QShowEvent* event) {
@@ -80,7 +80,7 @@ void PictureWidget::showEvent(QShowEvent* event) {
 }
 
 void PictureWidget::paintEvent(QPaintEvent*) {
-  const Picture& picture = box_.picture;
+  const Picture& picture = box_.picture();
   const int width = picture.PixelWidth(), height = picture.PixelHeight();
   const auto* pixels = reinterpret_cast<const uchar*>(picture.Pixels().data());
   const QImage image(pixels, width, height, width * 4, QImage::Format_RGBX8888);
@@ -93,9 +93,9 @@ void PictureWidget::paintEvent(QPaintEvent*) {
 }
 
 void PictureWidget::DrawOverlay(QPainter& painter) const {
-  for (const OverlayShape& shape : box_.picture.overlay) {
-    const Pixel from = box_.picture.ToPixel(shape.x0, shape.y0);
-    const Pixel to = box_.picture.ToPixel(shape.x1, shape.y1);
+  for (const OverlayShape& shape : box_.overlay()) {
+    const Pixel from = box_.measures().ToPixel(shape.x0, shape.y0);
+    const Pixel to = box_.measures().ToPixel(shape.x1, shape.y1);
     painter.setPen(ToQt(shape.colour));
     switch (shape.form) {
       case OverlayShape::Form::Line:
@@ -113,8 +113,8 @@ void PictureWidget::DrawOverlay(QPainter& painter) const {
 
 UserEvent PictureWidget::MouseEventAt(UserAction action, QPoint pixel, const Click& click) const {
   UserEvent event = EventFor(box_, action);
-  event.x = box_.picture.ToUserX(pixel.x());
-  event.y = box_.picture.ToUserY(pixel.y());
+  event.x = box_.measures().ToUserX(pixel.x());
+  event.y = box_.measures().ToUserY(pixel.y());
   event.click = click;
   return event;
 }
@@ -156,7 +156,7 @@ void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void PictureWidget::resizeEvent(QResizeEvent*) {
   if (!box_.followsWindow) return;
-  if (size() == QSize(box_.picture.PixelWidth(), box_.picture.PixelHeight())) {
+  if (size() == QSize(box_.measures().PixelWidth(), box_.measures().PixelHeight())) {
     dispatcher_.DropPending(pendingResize_);
     return;
   }

@@ -112,7 +112,7 @@ void Picture::FillGround() const {
                              static_cast<std::size_t>(left - image.left);
     const std::size_t to =
         static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(left);
-    std::copy_n(image.pixels.begin() + static_cast<std::ptrdiff_t>(from), right - left,
+    std::copy_n(image.pixels->begin() + static_cast<std::ptrdiff_t>(from), right - left,
                 pixels_.begin() + static_cast<std::ptrdiff_t>(to));
   }
 }

@@ -33,7 +33,7 @@ class PixelSource {
 // An image that lies on the ground of a picture, under everything drawn. Left and top in pixels.
 struct Backdrop {
   int width = 0, height = 0;
-  std::vector<std::uint32_t> pixels;  // row by row from the top
+  std::shared_ptr<const std::vector<std::uint32_t>> pixels;  // row by row from the top; shared when it only moves
   int left = 0, top = 0;
 };
 

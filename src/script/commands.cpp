@@ -77,12 +77,12 @@ PictureBox& FindPicture(App& app, const std::string& place) {
 }
 
 void Save(ScriptRunner& runner, const Words& words) {
-  SavePicture(FindPicture(runner.app(), words[1]).picture, words[2]);
+  SavePicture(FindPicture(runner.app(), words[1]).picture(), words[2]);
 }
 
 void Load(ScriptRunner& runner, const Words& words) {
   PictureBox& box = FindPicture(runner.app(), words[1]);
-  LoadPicture(box.picture, words[2]);
+  LoadPicture(box.picture(), words[2]);
   box.NotifyChanged();
 }
 

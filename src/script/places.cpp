@@ -66,7 +66,7 @@ Place PixelPlace(const Control& control, const std::string& text, const std::str
     throw ScriptError("a pixel is spelt pixel(x,y), not " + property);
   }
   const int x = pixel->subscripts[0], y = pixel->subscripts[1];
-  return {[box, x, y] { return static_cast<double>(box->picture.PixelAt(x, y)); },
+  return {[box, x, y] { return static_cast<double>(box->picture().PixelAt(x, y)); },
           [text](const std::string&) { RefuseToSet(text); }};
 }
 

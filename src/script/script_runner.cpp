@@ -73,6 +73,7 @@ void ScriptRunner::Execute(const Words& words) {
     throw ScriptError("the command is " + UsageOf(*command));
   }
   command->run(*this, words);
+  app_.EndEvent();
 }
 
 void ScriptRunner::KeepModal(const std::string& window) {

@@ -288,10 +288,10 @@ TEST_F(Bench, PropertiesOfOtherKinds) {
   EXPECT_EQ(GetProperty(picture, "pixelwidth"), PropertyValue(20.0));
   EXPECT_FALSE(SetProperty(picture, "pixelwidth", 5.0));
   EXPECT_TRUE(SetProperty(picture, "scaleheight", -15.0));
-  EXPECT_EQ(picture.picture.ScaleHeight(), -15);
-  EXPECT_EQ(picture.picture.ScaleWidth(), 20);
+  EXPECT_EQ(picture.measures().ScaleHeight(), -15);
+  EXPECT_EQ(picture.measures().ScaleWidth(), 20);
   EXPECT_TRUE(SetProperty(picture, "forecolor", 255.0));
-  EXPECT_EQ(picture.picture.foreColour, 255U);
+  EXPECT_EQ(picture.picture().foreColour, 255U);
   EXPECT_TRUE(Raises(FaultKind::DivisionByZero, [&] { SetProperty(picture, "scalewidth", 0.0); }));
   int resized = 0;
   picture.onResize = [&](int width, int) { resized = width; };

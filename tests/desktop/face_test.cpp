@@ -80,12 +80,12 @@ TEST_F(SplashTest, AKeyGoesOnToo) {
 TEST_F(FaceTest, TheViewFillsTheFrameAndFollowsIt) {
   auto& view = Shown<QMdiSubWindow>("Form36");
   auto& box = Controlled<PictureBox>("Form36", "Picture1");
-  const int widthBefore = box.picture.PixelWidth();
+  const int widthBefore = box.measures().PixelWidth();
   EXPECT_EQ(view.geometry().left(), Shown<QMdiSubWindow>("Form51").geometry().right() + 1);
   EXPECT_EQ(view.geometry().right() + 1, frame().centralWidget()->width());
   frame().resize(frame().width() - 100, frame().height());
   Settle();
-  EXPECT_EQ(box.picture.PixelWidth(), widthBefore - 100);
+  EXPECT_EQ(box.measures().PixelWidth(), widthBefore - 100);
   EXPECT_EQ(Shown<QWidget>("Form36.Picture1").width(), widthBefore - 100);
 
   // Once a person has placed it, it stays.
@@ -106,7 +106,7 @@ TEST_F(FaceTest, ProfilePointsAreDrawnWithTheMouse) {
                    "mouse Form36.Picture1 down 500 -200 left", "mouse Form36.Picture1 up 500 -200 left",
                    "mouse Form36.Picture1 down 450 -400 left", "mouse Form36.Picture1 up 450 -400 left"}));
   const QImage screen = OnScreen(widget);
-  EXPECT_EQ(DifferingPixels(screen, Controlled<PictureBox>("Form36", "Picture1").picture), 0);
+  EXPECT_EQ(DifferingPixels(screen, Controlled<PictureBox>("Form36", "Picture1").picture()), 0);
   EXPECT_EQ(screen.pixel(3, 3), qRgb(64, 64, 64));
   EXPECT_GT(qGray(screen.pixel(450, 150)), 150) << "the line between the first two points";
 }
@@ -129,12 +129,12 @@ TEST_F(FaceTest, ADragMovesThePartAndTheScreenShowsTheSamePixels) {
   }
   QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(350, 300));
   EXPECT_EQ(app().model.Points(0, 1).X, before + 1 + 2 + 2);
-  EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture), 0);
+  EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture()), 0);
 
   QTest::mouseClick(&Shown<QWidget>("Form36.Command33"), Qt::LeftButton);
   Settle();
-  EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture), 0);
-  EXPECT_EQ(box.picture.PixelAt(box.picture.PixelWidth() - 1, 0), 0) << "black outside the shaded square";
+  EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture()), 0);
+  EXPECT_EQ(box.picture().PixelAt(box.measures().PixelWidth() - 1, 0), 0) << "black outside the shaded square";
 }
 
 TEST_F(FaceTest, ButtonsKeysAndTheNewestMoveAreTold) {
@@ -215,7 +215,7 @@ TEST_F(FaceTest, TypedTextIsDeliveredAtEnterAfterAPauseAndBeforeOtherEvents) {
 }
 
 TEST_F(FaceTest, TheRightButtonPressesAButtonToo) {
-  const auto& picture = Controlled<PictureBox>("Form36", "Picture1").picture;
+  const auto& picture = Controlled<PictureBox>("Form36", "Picture1").measures();
   const double before = picture.ScaleWidth();
   auto& zoom = Shown<QPushButton>("Form36.Command12");
   QTest::mouseClick(&zoom, Qt::RightButton);

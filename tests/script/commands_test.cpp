@@ -128,9 +128,9 @@ TEST_F(Commands, RowsOfTheModel) {
 TEST_F(Commands, SaveAndLoad) {
   for (const char* ending : {".png", ".bmp"}) {
     const std::string file = testing::TempDir() + "pelorium script" + ending;
-    view.picture.Line(3, 4, 4, 4, Rgb(200, 100, 50));
+    view.picture().Line(3, 4, 4, 4, Rgb(200, 100, 50));
     AnswerTo("save frmAbout.TestView \"" + file + "\"");
-    view.picture.Resize(5, 5);
+    view.picture().Resize(5, 5);
     AnswerTo("load frmAbout.TestView \"" + file + "\"");
     EXPECT_EQ(AnswerTo("get frmAbout.TestView.pixelwidth\nget frmAbout.TestView.pixel(3,4)"),
               "20\n3302600\n");

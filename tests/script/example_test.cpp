@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -34,6 +35,7 @@ class Example : public FolderTest {
       std::filesystem::create_directories(home() / name);
     }
     WriteBytes(home() / "help.rtf", "help");
+    app.drawsAtOnce = std::getenv("PELORIUM_DRAW_AT_ONCE") != nullptr;
     std::filesystem::create_directory_symlink(kExamples, folder() / "examples");
     std::filesystem::current_path(home());
     app.Start();

@@ -13,7 +13,7 @@ TEST_F(Places, ReadControls) {
   list.SetIndex(2);
   progress.SetValue(20);
   box.SetText(R"(a "b" \c)");
-  view.picture.Line(3, 4, 4, 4, Rgb(1, 2, 3));
+  view.picture().Line(3, 4, 4, 4, Rgb(1, 2, 3));
   const struct {
     const char *place, *answer;
   } kCases[] = {
@@ -59,7 +59,7 @@ TEST_F(Places, SetControlsAsTheProgramDoes) {
   }
   EXPECT_FALSE(button.enabled());
   EXPECT_EQ(label.caption(), "5");
-  EXPECT_EQ(view.picture.ScaleHeight(), -200);
+  EXPECT_EQ(view.measures().ScaleHeight(), -200);
 }
 
 TEST_F(Places, SetNeedsAFittingValue) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -13,9 +14,13 @@
 
 namespace pelorium {
 
+// The tests of windows run both ways: with the picture drawn when an event ends, and at once.
+inline bool DrawsAtOnce() { return std::getenv("PELORIUM_DRAW_AT_ONCE") != nullptr; }
+
 class AppTest : public FolderTest {
  protected:
   AppTest() : app(platform, folder()) {
+    app.drawsAtOnce = DrawsAtOnce();
     for (const char* name : {"projects", "objs", "objinfo"})
       std::filesystem::create_directory(folder() / name);
     app.Start();

@@ -209,8 +209,8 @@ TEST_F(EditGeometryWindow, TheOriginIsDraggedInUnitsOfTheView) {
   window.Check3.SetValue(false);
   window.Command18.Press();
   Drag("Picture4", 2.5F, 3);
-  EXPECT_EQ(window.Picture4.picture.ScaleWidth(), 82.5);  // 110 pixels of 0.75 units
-  EXPECT_LT(window.Picture4.picture.ScaleHeight(), 0);
+  EXPECT_EQ(window.Picture4.measures().ScaleWidth(), 82.5);  // 110 pixels of 0.75 units
+  EXPECT_LT(window.Picture4.measures().ScaleHeight(), 0);
   Drag("Picture4", 50, -7, kRight);
   EXPECT_EQ(Origin(app), (Vec3{2.5, 3, -7}));
   app.Deliver({"specialeffects5", "Picture4", UserAction::DoubleClick});
@@ -238,7 +238,7 @@ TEST_F(EditGeometryWindow, AreasPickInTheProjectionOfTheView) {
   app.view->form51.Option2.SetValue(true);
   window.Option3.SetValue(true);
   window.Option10.SetValue(true);
-  EXPECT_EQ(window.Picture1.picture.ScaleHeight(), -637);
+  EXPECT_EQ(window.Picture1.measures().ScaleHeight(), -637);
   On("Picture1", UserAction::MouseDown, 318, -318);
   EXPECT_EQ(Marks(), "1111");
   On("Picture1", UserAction::MouseDown, 318, -318, kRight);
@@ -247,7 +247,7 @@ TEST_F(EditGeometryWindow, AreasPickInTheProjectionOfTheView) {
   On("Picture5", UserAction::MouseDown, 318, -318);
   EXPECT_EQ(Marks(), "0001");
   window.Option7.SetValue(true);
-  EXPECT_EQ(window.Picture1.picture.ScaleHeight(), window.Picture1.picture.PixelHeight());
+  EXPECT_EQ(window.Picture1.measures().ScaleHeight(), window.Picture1.measures().PixelHeight());
 }
 
 TEST_F(EditGeometryWindow, MirrorsAndSteps) {
@@ -279,7 +279,7 @@ TEST_F(EditGeometryWindow, WithoutEditObjADragOnlyShowsItsWay) {
   On("Picture1", UserAction::MouseDown, 100, 50, MouseButton::Left);
   On("Picture1", UserAction::MouseMove, 130, 90, MouseButton::Left);
   On("Picture1", UserAction::MouseMove, 120, 80, MouseButton::Left);
-  const auto& overlay = window.Picture1.picture.overlay;
+  const auto& overlay = window.Picture1.overlay();
   ASSERT_EQ(overlay.size(), 1u);
   EXPECT_EQ(overlay[0].x0, 100);
   EXPECT_EQ(overlay[0].y1, 80);
@@ -291,15 +291,15 @@ TEST_F(EditGeometryWindow, WithoutEditObjADragOnlyShowsItsWay) {
 TEST_F(EditGeometryWindow, ThePickAreaHasTheViewsShape) {
   app.Deliver({"Form36", "Picture1", UserAction::Resize, 0, {}, {}, 0, 0, 1000, 500});
   PressItem("special5");
-  EXPECT_EQ(window.Picture5.picture.PixelWidth(), 241);
-  EXPECT_EQ(window.Picture5.picture.PixelHeight(), 120);
-  EXPECT_EQ(window.Picture1.picture.PixelHeight(), 159);
+  EXPECT_EQ(window.Picture5.measures().PixelWidth(), 241);
+  EXPECT_EQ(window.Picture5.measures().PixelHeight(), 120);
+  EXPECT_EQ(window.Picture1.measures().PixelHeight(), 159);
   window.Option10.SetValue(true);
-  EXPECT_EQ(window.Picture1.picture.PixelHeight(), 120);
+  EXPECT_EQ(window.Picture1.measures().PixelHeight(), 120);
 }
 
 TEST_F(EditGeometryWindow, TheOpenWindowShowsTheViewInItsPickArea) {
-  const auto middleOfTheEdge = [&] { return window.Picture5.picture.PixelAt(129, 54); };
+  const auto middleOfTheEdge = [&] { return window.Picture5.picture().PixelAt(129, 54); };
   CopyPosition(Point(2), Vec3{400, 200, 0});
   app.view->form51.Option5.SetValue(true);
   SyncFaceCorners(app);
@@ -308,6 +308,7 @@ TEST_F(EditGeometryWindow, TheOpenWindowShowsTheViewInItsPickArea) {
   PressItem("special5");
   EXPECT_NE(middleOfTheEdge(), ground);
   app.view->form51.Check7.SetValue(false);
+  app.EndEvent();
   EXPECT_EQ(middleOfTheEdge(), ground);
 }
 

@@ -111,8 +111,8 @@ TEST_F(EditProfileWindow, RingsOfAPartComeBackAsProfiles) {
 }
 
 TEST_F(EditProfileWindow, GrayLevelsComeFromTheImage) {
-  app.view->form36.Picture2.picture.backColour = Rgb(100, 100, 100);
-  app.view->form36.Picture2.picture.Clear();
+  app.view->form36.Picture2.picture().backColour = Rgb(100, 100, 100);
+  app.view->form36.Picture2.picture().Clear();
   app.model.ProfilePts(0, 0).Y = 10;
   window.Command15.Press();
   EXPECT_EQ(Point(0).Z, 25);

@@ -91,7 +91,7 @@ TEST_F(HelpWindows, LooksGoOnTheSelection) {
   app.frame->helpme.HScroll1.Drag(30);
   app.frame->helpme.HScroll2.Drag(200);
   app.frame->helpme.HScroll4.Drag(1000);
-  EXPECT_EQ(app.frame->helpme.Picture1.picture.PixelAt(3, 3), static_cast<int>(Rgb(200, 0, 255)));
+  EXPECT_EQ(app.frame->helpme.Picture1.picture().PixelAt(3, 3), static_cast<int>(Rgb(200, 0, 255)));
   EXPECT_EQ(FirstLook(), TextFormat());  // the bars alone change nothing
   for (PushButton* button :
        {&app.frame->helpme.Command4, &app.frame->helpme.Command5, &app.frame->helpme.Command6,

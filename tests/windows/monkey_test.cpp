@@ -9,7 +9,9 @@
 #include "app_fixture.h"
 #include "base/random_series.h"
 #include "graphics/gl_recorder.h"
+#include "windows/shell/event_text.h"
 #include "windows/view/form36_view.h"
+#include "windows/view/form51_view_options.h"
 #include "windows/view/view_windows.h"
 
 namespace pelorium {
@@ -139,7 +141,27 @@ TEST_P(Monkey, WalksOverEveryControl) {
     platform.QueueAnswer(Below(2) == 0 ? "" : (folder() / ("file" + std::to_string(Below(4)))).string());
     app.Deliver(Doing());
     ASSERT_NO_FATAL_FAILURE(ExpectInvariants(step));
-    if (step % 10 == 0) app.view->form36.Picture1.picture.Pixels();
+    if (step % 10 == 0) app.view->form36.Picture1.picture().Pixels();
+  }
+}
+
+// The same walk with pictures drawn at once: the same pixels at the end of every event.
+TEST_P(Monkey, ShowsTheSameWhenDrawnAtOnce) {
+  const TemporaryFolder other;
+  HeadlessPlatform otherPlatform;
+  App atOnce(otherPlatform, other.path());
+  atOnce.drawsAtOnce = true;
+  atOnce.Start();
+  for (App* each : {&app, &atOnce}) each->random.FixClockSeed(1);
+  const auto pixels = [](App& a) -> const std::vector<std::uint32_t>& {
+    return a.view->form36.Picture1.picture().Pixels();
+  };
+  for (int step = 0; step < 400; ++step) {
+    const UserEvent event = Doing();
+    app.Deliver(event);
+    atOnce.Deliver(event);
+    if (app.view->form36.Label54.caption() == " SHADED VIEW ") continue;  // one surface draws both
+    ASSERT_EQ(pixels(app), pixels(atOnce)) << "step " << step << ": " << ScriptLine(event);
   }
 }
 

@@ -70,8 +70,8 @@ class ShadedWindow : public AppTest {
                        [&](const GlCall& call) { return CallText(call) == text; });
   }
   // Away from the grid of the wire views.
-  int ViewPixel() { return app.view->form36.Picture1.picture.PixelAt(25, 25); }
-  int PreviewPixel() { return app.view->form51.Picture3.picture.PixelAt(25, 25); }
+  int ViewPixel() { return app.view->form36.Picture1.picture().PixelAt(25, 25); }
+  int PreviewPixel() { return app.view->form51.Picture3.picture().PixelAt(25, 25); }
 
   FakeSurface::Log log;
 };
@@ -87,6 +87,7 @@ TEST_F(ShadedWindow, EachEventRendersOnceAndOnlyWhenLookedAt) {
   app.view->form51.HScroll13.SetValue(20);
   app.view->form51.HScroll1.SetValue(300);
   EXPECT_EQ(log.rendered, 0);
+  app.EndEvent();
   app.shadedPose.RotY = 33;  // after the picture was drawn: not in it
   EXPECT_EQ(ViewPixel(), kDrawn);
   EXPECT_EQ(log.rendered, 1);
@@ -133,6 +134,7 @@ TEST_F(ShadedWindow, FaultIsNotedAndTheRestStands) {
   app.model.Part(0).maxfaces = 1;
   app.model.Faces(0, 1).group = 42;
   app.view->form51.Option11.SetValue(true);
+  app.EndEvent();
   const auto faults = app.faults.TakeAll();
   ASSERT_EQ(faults.size(), 1U);
   EXPECT_TRUE(faults[0].starts_with("DrawShaded: ")) << faults[0];

@@ -24,8 +24,8 @@ TEST_F(Start, OpensOnTheProfileViewAtOneUnitAPixel) {
   EXPECT_EQ(app.view->form36.left(), 4300);
   EXPECT_EQ(app.view->form51.top(), 10);
   EXPECT_EQ(app.view->form36.Label54.caption(), " PROFILE VIEW--Front ");
-  EXPECT_EQ(app.view->form36.Picture1.picture.ScaleWidth(), 964);
-  EXPECT_EQ(app.view->form36.Picture1.picture.ScaleHeight(), -637);
+  EXPECT_EQ(app.view->form36.Picture1.measures().ScaleWidth(), 964);
+  EXPECT_EQ(app.view->form36.Picture1.measures().ScaleHeight(), -637);
   EXPECT_EQ(app.view->form36.HScroll1.value(), 318);
   EXPECT_EQ(app.view->form36.VScroll1.value(), -318);
   EXPECT_EQ(app.view->form51.Label3.caption(), "0faces  points 0");

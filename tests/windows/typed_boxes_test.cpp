@@ -60,7 +60,7 @@ TEST_F(TypedBoxes, OutOfRangeTheLimitCountsAndShowsOnceTheTypingIsOver) {
 TEST_F(TypedBoxes, ANumberTooLargeIsNone) {
   Type("Form5.Text5", "1e400");
   EXPECT_EQ(app.view->form36.Label54.caption(), " PROFILE VIEW--Front ");
-  EXPECT_EQ(app.view->form36.Picture1.picture.PixelAt(318, 310),
+  EXPECT_EQ(app.view->form36.Picture1.picture().PixelAt(318, 310),
             static_cast<int>(Rgb(0, 0, 255)));  // the cross at 0
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }

@@ -103,9 +103,9 @@ void DrawVase(Picture& picture) {
 }  // namespace
 
 FrmSplash::FrmSplash(App& app) : Window(app.host, "frmSplash", "Pelorium"), app_(app) {
-  DrawSky(Picture1.picture);
-  DrawFloor(Picture1.picture);
-  DrawVase(Picture1.picture);
+  DrawSky(Picture1.picture());
+  DrawFloor(Picture1.picture());
+  DrawVase(Picture1.picture());
   for (Control* part : controls()) {
     part->onClick = [this](const Click&) { Form_Click(); };
     part->onKey = [this](char) { Form_Click(); };

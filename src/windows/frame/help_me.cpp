@@ -67,8 +67,8 @@ void HelpMe::Save(const std::filesystem::path& path) {
 Colour HelpMe::ChosenColour() const { return Rgb(HScroll2.value(), HScroll3.value(), HScroll4.value()); }
 
 void HelpMe::ShowChosenColour() {
-  Picture1.picture.backColour = ChosenColour();
-  Picture1.picture.Clear();
+  Picture1.picture().backColour = ChosenColour();
+  Picture1.picture().Clear();
   Picture1.NotifyChanged();
 }
 

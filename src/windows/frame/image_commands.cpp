@@ -30,14 +30,14 @@ void CopyPicture(const Picture& from, Picture& to) {
 
 void ClearImage(App& app) { app.view->form36.ClearBackground(); }
 
-void SendForeground(App& app) { app.platform.SetClipboardPicture(app.view->form36.Picture1.picture); }
+void SendForeground(App& app) { app.platform.SetClipboardPicture(app.view->form36.Picture1.picture()); }
 
-void SendBackground(App& app) { app.platform.SetClipboardPicture(app.view->form36.Picture2.picture); }
+void SendBackground(App& app) { app.platform.SetClipboardPicture(app.view->form36.Picture2.picture()); }
 
 void GetBackground(App& app) {
   const std::optional<Picture> picture = app.platform.ClipboardPicture();
   if (!picture) return;
-  CopyPicture(*picture, app.view->form36.Picture2.picture);
+  CopyPicture(*picture, app.view->form36.Picture2.picture());
   app.view->form36.Picture2.NotifyChanged();
   app.view->form36.ShowBackground();
 }

@@ -56,8 +56,8 @@ GeometryDrag::GeometryDrag(App& app, PictureBox& picture, std::function<Geometry
     : app_(app),
       picture_(picture),
       mode_(std::move(mode)),
-      ownWidth_(picture.picture.PixelWidth()),
-      ownHeight_(picture.picture.PixelHeight()) {
+      ownWidth_(picture.measures().PixelWidth()),
+      ownHeight_(picture.measures().PixelHeight()) {
   picture.onMouseDown = [this](const MouseEvent& event) { Press(event); };
   picture.onMouseMove = [this](const MouseEvent& event) { Move(event); };
   picture.onMouseUp = [this](const MouseEvent&) {
@@ -72,8 +72,8 @@ GeometryDrag::GeometryDrag(App& app, PictureBox& picture, std::function<Geometry
 }
 
 void GeometryDrag::FollowView() {
-  Picture& area = picture_.picture;
-  const Picture& view = app_.view->form36.Picture1.picture;
+  Picture& area = picture_.picture();
+  const Picture& view = app_.view->form36.Picture1.measures();
   const bool isWholeView = mode_() == GeometryMode::PickPoints;
   const int wantedHeight = isWholeView ? HeightLike(view, ownWidth_) : ownHeight_;
   if (area.PixelHeight() != wantedHeight) area.Resize(ownWidth_, wantedHeight);
@@ -95,9 +95,9 @@ void GeometryDrag::ShowView(ViewSettings settings) {
   FollowView();
   if (mode_() == GeometryMode::PickPoints) {
     settings.showGrid = settings.showChosenPoints = settings.showAllPoints = false;
-    DrawViews(app_.model, settings, picture_.picture, app_.faults);
+    DrawViews(app_.model, settings, picture_.picture(), app_.drawingFaults);
   } else {
-    picture_.picture.Clear();
+    picture_.picture().Clear();
   }
   picture_.NotifyChanged();
 }
@@ -106,7 +106,7 @@ void GeometryDrag::Press(const MouseEvent& event) {
   FollowView();
   last_ = pressed_ = event;
   isDown_ = true;
-  picture_.picture.overlay.clear();
+  picture_.overlay().clear();
   if (mode_() == GeometryMode::PickPoints) Pick();
   picture_.NotifyChanged();
 }
@@ -133,7 +133,7 @@ void GeometryDrag::Pick() {
       area.shape = PickShape::Circle;
       area.halfWidth = area.halfHeight;
     }
-    picture_.picture.overlay.push_back(ShapeOf(area));
+    picture_.overlay().push_back(ShapeOf(area));
     PickPoints(app_.model, CurrentPart(app_), PointRangeStart(app_), PointRangeEnd(app_), *view, area,
                !IsRight());
   });
@@ -142,7 +142,7 @@ void GeometryDrag::Pick() {
 
 // A line from the press to the mouse, for a drag that leaves the points where they are.
 void GeometryDrag::ShowPath(bool isShown) {
-  auto& overlay = picture_.picture.overlay;
+  auto& overlay = picture_.overlay();
   if (mode_() == GeometryMode::PickPoints || (overlay.empty() && !isShown)) return;
   overlay.clear();
   if (isShown) overlay.push_back({pressed_.x, pressed_.y, last_.x, last_.y, kAreaColour});

@@ -175,7 +175,7 @@ void Formulas::FetchRandom() {
 void Formulas::FetchGrays() {
   const auto [panX, panY] = ViewPan(app_);
   GrayToZ(app_.model, CurrentProfile(app_), Points(),
-          {app_.view->form36.Picture2.picture, panX, panY, Text4.Number()});
+          {app_.view->form36.Picture2.picture(), panX, panY, Text4.Number()});
 }
 
 void Formulas::ShowSubView() {

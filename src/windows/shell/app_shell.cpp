@@ -68,15 +68,37 @@ bool DeliverTo(Control& control, const UserEvent& event) {
 }  // namespace
 
 App::App(Platform& platformToUse, const std::filesystem::path& path)
-    : platform(platformToUse), applicationPath(std::filesystem::absolute(path).lexically_normal()) {
+    : seenPlatform_(platformToUse,
+                    [this] {
+                      if (links.drawNow) links.drawNow();
+                    }),
+      platform(seenPlatform_),
+      applicationPath(std::filesystem::absolute(path).lexically_normal()) {
   faults.onNote = [this](const std::string& line) { notices.Give(line, NoticeKind::Fault); };
+  drawingFaults.isQuiet = true;
+  drawingFaults.onNote = [this](const std::string& line) {
+    auto& noted = drawingFaultsOfEvent_;
+    if (std::find(noted.begin(), noted.end(), line) != noted.end()) return;
+    noted.push_back(line);
+    faults.NoteLine(line);
+  };
   BuildWindows(*this);
 }
 
 // The windows hold pictures that end before the surface they are drawn on, which the view keeps.
 App::~App() { windows_.clear(); }
 
-void App::Start() { links.start(); }
+void App::Start() {
+  links.start();
+  EndEvent();
+}
+
+void App::EndEvent(bool hadFault) {
+  if (hadFault) links.markStale();
+  links.drawNow();
+  drawingFaults.TakeAll();
+  drawingFaultsOfEvent_.clear();
+}
 
 void App::Keep(std::unique_ptr<Window> window, ToolWindow* toolWindow) {
   windows_.push_back(std::move(window));
@@ -109,19 +131,24 @@ void App::ReloadFileLists() {
 bool App::Deliver(const UserEvent& event) {
   Window* window = FindWindow(event.window);
   if (window == nullptr) return false;
-  if (event.action == UserAction::CloseWindow) {
-    FinishTypingElsewhere(nullptr);
-    if (onEvent) onEvent(event);
-    Trapped(faults, window->name(), [window] { window->Close(); });
-    return true;
+  Control* control = nullptr;
+  if (event.action != UserAction::CloseWindow) {
+    control = window->Find(event.control);
+    if (control == nullptr || !control->enabled()) return false;
   }
-  Control* control = window->Find(event.control);
-  if (control == nullptr || !control->enabled()) return false;
   FinishTypingElsewhere(control);
   if (event.action == UserAction::Type) typedBox_ = dynamic_cast<TextBox*>(control);
   if (onEvent) onEvent(event);
   bool applied = true;  // also when a fault ended the handler
-  Trapped(faults, control->FullName(), [&] { applied = DeliverTo(*control, event); });
+  const std::size_t faultsBefore = faults.count();
+  Trapped(faults, control == nullptr ? window->name() : control->FullName(), [&] {
+    if (control == nullptr) {
+      window->Close();
+    } else {
+      applied = DeliverTo(*control, event);
+    }
+  });
+  EndEvent(faults.count() != faultsBefore);
   return applied;
 }
 

@@ -17,6 +17,7 @@
 #include "views/shaded_settings.h"
 #include "windows/shell/notices.h"
 #include "windows/shell/room_links.h"
+#include "windows/shell/seen_platform.h"
 
 namespace pelorium {
 
@@ -50,12 +51,24 @@ class App {
   // Those that take part in the hooks, in the program's order.
   const std::vector<ToolWindow*>& toolWindows() const { return toolWindows_; }
 
+  // An event is over: what the picture of the model is to show is drawn; after a fault in any case, from what was left.
+  // Deliver, Start and each command of a script end with it.
+  void EndEvent(bool hadFault = false);
+  // For tests: RefreshViews draws within its call. The pixels at the end of every event are the same.
+  bool drawsAtOnce = false;
+
   // Every list of files shows what is there now.
   void ReloadFileLists();
 
+ private:
+  SeenPlatform seenPlatform_;
+
+ public:
   Platform& platform;
   const std::filesystem::path applicationPath;
   FaultLog faults;
+  // Of the drawing of pictures: noted in `faults` once an event, however often an event draws.
+  FaultLog drawingFaults;
   Notices notices;  // hears of every fault
   ControlHost host;
   RandomSeries random;
@@ -96,6 +109,7 @@ class App {
   std::vector<std::unique_ptr<Window>> windows_;
   std::vector<ToolWindow*> toolWindows_;
   TextBox* typedBox_ = nullptr;  // the last one that a person typed into
+  std::vector<std::string> drawingFaultsOfEvent_;
 
  public:
   // The rooms. Their windows bear the system's names: app.view->form36.

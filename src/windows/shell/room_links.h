@@ -23,7 +23,7 @@ struct RoomLinks {
   std::function<void()> start;  // the load of the main frame
 
   // view
-  std::function<void()> refreshViews, drawNow, syncFaceCorners;
+  std::function<void()> refreshViews, markStale, drawNow, syncFaceCorners;
 
   // profiles
   std::function<Projection()> subView;  // of the profile view

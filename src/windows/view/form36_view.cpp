@@ -10,6 +10,7 @@
 #include "windows/shell/hooks.h"
 #include "windows/view/command_row.h"
 #include "windows/view/form51_view_options.h"
+#include "windows/view/refresh_views.h"
 #include "windows/view/shaded_view.h"
 #include "windows/view/shared_parameters.h"
 #include "windows/view/view_windows.h"
@@ -49,11 +50,12 @@ Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mo
   Picture1.onMouseDown = [this](const MouseEvent& event) { mouse.Down(event); };
   Picture1.onMouseMove = [this](const MouseEvent& event) { mouse.Move(event); };
   Picture1.onMouseUp = [this](const MouseEvent&) { mouse.Up(); };
+  Picture1.onDraw = [this](Picture& picture) { Paint(picture); };
   Picture1.onResize = [this](int width, int height) { Picture1_Resize(width, height); };
   Picture1.onKey = [this](char character) { Picture1_KeyPress(character); };
-  Picture1.picture.SetScale(15, -15);
-  Picture2.picture.backColour = Rgb(0, 0, 0);
-  Picture2.picture.Clear();
+  Picture1.picture().SetScale(15, -15);
+  Picture2.picture().backColour = Rgb(0, 0, 0);
+  Picture2.picture().Clear();
   for (ScrollBar* pan : {&HScroll1, &VScroll1}) pan->onChange = [this] { RefreshViews(app_); };
   Command12.onClick = [this](const Click& click) { ZoomByButton(click); };
   Command16.onClick = [this](const Click&) { app_.view->shadedView->DrawShaded(); };
@@ -110,7 +112,7 @@ void Form36::Load() {
 // One unit a pixel. The pan X is half the height, not half the width: a zoom moves both pans by the height's
 // change, and from there the origin stays in sight for two steps either way.
 void Form36::ResetView() {
-  Picture& picture = Picture1.picture;
+  Picture& picture = Picture1.picture();
   picture.SetScale(picture.PixelWidth(), -picture.PixelHeight());
   const int half = picture.PixelHeight() / 2;
   HScroll1.SetValue(HScroll1.Clamped(half));
@@ -120,7 +122,7 @@ void Form36::ResetView() {
 
 // Units per pixel and the top left corner stay where they are.
 void Form36::Picture1_Resize(int pixelWidth, int pixelHeight) {
-  Picture& picture = Picture1.picture;
+  Picture& picture = Picture1.picture();
   const double width = picture.ScaleWidth() * pixelWidth / picture.PixelWidth();
   const double height = picture.ScaleHeight() * pixelHeight / picture.PixelHeight();
   picture.Resize(pixelWidth, pixelHeight);
@@ -129,7 +131,7 @@ void Form36::Picture1_Resize(int pixelWidth, int pixelHeight) {
 }
 
 void Form36::ZoomByButton(const Click& click) {
-  Picture& picture = Picture1.picture;
+  Picture& picture = Picture1.picture();
   const double oldHeight = picture.ScaleHeight();
   if (!Zoom(picture, click.IsRight() ? kZoomOut : kZoomIn)) return;
   const int back = PanAfterZoom(oldHeight, picture.ScaleHeight());
@@ -152,10 +154,24 @@ void Form36::Picture1_KeyPress(char character) {
     case 'o':
       return Option1.Press({});
     case '-':
-      if (Zoom(Picture1.picture, kZoomOutGently)) RefreshViews(app_);
+      if (Zoom(Picture1.picture(), kZoomOutGently)) RefreshViews(app_);
       return;
     default:
       return;
+  }
+}
+
+void Form36::Redraw(Content content) {
+  content_ = content;
+  Picture1.MarkStale();
+  if (app_.drawsAtOnce) Picture1.DrawStale();
+}
+
+void Form36::Paint(Picture& picture) {
+  if (content_ == Content::Shaded) {
+    app_.view->shadedView->Paint();
+  } else {
+    PaintViews(app_, picture);
   }
 }
 
@@ -178,24 +194,26 @@ void Form36::ShowGreyLevel(Colour colour) {
 }
 
 void Form36::ShowBackground() {
-  const Picture& image = Picture2.picture;
-  Picture1.picture.SetBackdrop(std::make_shared<Backdrop>(
-      Backdrop{image.PixelWidth(), image.PixelHeight(), image.Pixels(), HScroll2.value(), VScroll2.value()}));
+  const Picture& image = Picture2.picture();
+  Picture1.picture().SetBackdrop(std::make_shared<Backdrop>(
+      Backdrop{image.PixelWidth(), image.PixelHeight(),
+               std::make_shared<const std::vector<std::uint32_t>>(image.Pixels()), HScroll2.value(),
+               VScroll2.value()}));
   RefreshViews(app_);
 }
 
 void Form36::ClearBackground() {
-  Picture1.picture.SetBackdrop(nullptr);
+  Picture1.picture().SetBackdrop(nullptr);
   Label53.SetCaption({});
   RefreshViews(app_);
 }
 
 void Form36::MoveBackground() {
-  if (!Picture1.picture.backdrop()) return;
-  auto moved = std::make_shared<Backdrop>(*Picture1.picture.backdrop());
+  if (!Picture1.picture().backdrop()) return;
+  auto moved = std::make_shared<Backdrop>(*Picture1.picture().backdrop());
   moved->left = HScroll2.value();
   moved->top = VScroll2.value();
-  Picture1.picture.SetBackdrop(std::move(moved));
+  Picture1.picture().SetBackdrop(std::move(moved));
   RefreshViews(app_);
 }
 

@@ -31,6 +31,10 @@ class Form36 : public ToolWindow {
   // Left zooms in, right zooms out; the pans follow.
   void ZoomByButton(const Click& click);
 
+  // What the picture is to show: it is painted when the event ends, or when someone looks.
+  enum class Content { Wire, Shaded };
+  void Redraw(Content content);
+
   // The totals of the Parts, as they follow each refresh.
   void ShowTotals();
 
@@ -99,12 +103,15 @@ class Form36 : public ToolWindow {
  private:
   static constexpr auto kDisarms = OptionButton::WhenArmed::IsDisarmed;
 
+  void Paint(Picture& picture);
   void Picture1_Resize(int pixelWidth, int pixelHeight);
   void Picture1_KeyPress(char character);
   void ResetView();
   void MakePoseButtons();
   void MoveBackground();
   LayoutItem DeclareLayout();
+
+  Content content_ = Content::Wire;
 };
 
 }  // namespace pelorium

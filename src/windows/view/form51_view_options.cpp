@@ -74,7 +74,7 @@ void Form51::BindViews() {
 
 // The preview shows Y upward, as the view does.
 void Form51::BindPreview() {
-  Picture3.picture.SetScale(kPreviewSide, -kPreviewSide);
+  Picture3.picture().SetScale(kPreviewSide, -kPreviewSide);
   Picture3.onMouseDown = [this](const MouseEvent& event) { Picture3_MouseDown(event); };
   Picture3.onMouseMove = [this](const MouseEvent& event) { Picture3_MouseMove(event); };
   Picture3.onMouseUp = [this](const MouseEvent&) { isPreviewDragged_ = false; };

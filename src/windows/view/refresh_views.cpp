@@ -17,6 +17,7 @@ namespace pelorium {
 
 namespace {
 
+// What is not pixels at once; the pixels when the event ends.
 void Refresh(App& app) {
   Trapped(app.faults, "RefreshViews", [&app] {
     Form36& view = app.view->form36;
@@ -25,8 +26,7 @@ void Refresh(App& app) {
     const ViewSettings settings = GatherViewSettings(app);
     if (settings.mode != ViewMode::None) view.Label54.SetCaption(std::string(ViewCaption(settings)));
     view.mouse.Refreshed();
-    DrawViews(app.model, settings, view.Picture1.picture, app.faults);
-    for (ToolWindow* window : app.toolWindows()) window->ViewsRefreshed(settings);
+    view.Redraw(Form36::Content::Wire);
   });
 }
 
@@ -66,8 +66,20 @@ ViewSettings GatherViewSettings(const App& app) {
   return s;
 }
 
+void PaintViews(App& app, Picture& picture) {
+  Trapped(app.drawingFaults, "RefreshViews", [&] {
+    const ViewSettings settings = GatherViewSettings(app);
+    DrawViews(app.model, settings, picture, app.drawingFaults);
+    for (ToolWindow* window : app.toolWindows()) window->ViewsRefreshed(settings);
+  });
+}
+
 void LinkViews(App& app) {
-  app.links.refreshViews = app.links.drawNow = [&app] { Refresh(app); };
+  app.links.refreshViews = [&app] { Refresh(app); };
+  app.links.markStale = [&app] {
+    app.view->form36.Redraw(IsShadedChosen(app) ? Form36::Content::Shaded : Form36::Content::Wire);
+  };
+  app.links.drawNow = [&app] { app.view->form36.Picture1.DrawStale(); };
   app.links.syncFaceCorners = [&app] { Sync(app); };
 }
 

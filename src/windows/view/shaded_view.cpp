@@ -72,28 +72,32 @@ GlSurface* ShadedView::Surface() {
 void ShadedView::DrawShaded() {
   Form36& view = app_.view->form36;
   view.Label54.SetCaption(" SHADED VIEW ");
-  view.Picture1.picture.overlay.clear();
-  const bool isWhole = Draw(viewFrame_, view.Picture1, app_.view->form51.HScroll1.value());
+  view.Picture1.overlay().clear();
+  view.Redraw(Form36::Content::Shaded);
+}
+
+void ShadedView::Paint() {
+  const bool isWhole = Draw(viewFrame_, app_.view->form36.Picture1, app_.view->form51.HScroll1.value());
   if (isWhole && app_.view->form51.visible()) DrawPreview();
 }
 
 void ShadedView::DrawPreview() {
   PictureBox& preview = app_.view->form51.Picture3;
-  Draw(previewFrame_, preview, preview.picture.PixelWidth());
+  Draw(previewFrame_, preview, preview.measures().PixelWidth());
 }
 
 bool ShadedView::Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide) {
-  return Trapped(app_.faults, "DrawShaded", [&] {
-    box.picture.Clear();
+  return Trapped(app_.drawingFaults, "DrawShaded", [&] {
+    box.picture().Clear();
     box.NotifyChanged();
     GlSurface* surface = Surface();
     if (surface == nullptr) return;
     const ShadedSettings settings = Gather(app_, viewportSide);
     // A picture that was not looked at yet is replaced anyway, so that its memory serves again.
     if (!frame) frame = std::make_shared<ShadedFrame>(*surface);
-    frame->blank = box.picture.backColour;
+    frame->blank = box.picture().backColour;
     frame->recorder.Restart();
-    box.picture.TakeFrom(frame);
+    box.picture().TakeFrom(frame);
     pelorium::DrawShaded(app_.model, settings, frame->recorder);
   });
 }

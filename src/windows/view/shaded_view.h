@@ -22,9 +22,11 @@ class ShadedView {
   // The handle of the last context: they are numbered from 1.
   int RenderContext() const { return renderContext_; }
 
+  // The view window shows the shaded picture: its caption at once, its pixels when the event ends.
+  void DrawShaded();
   // Draws the model into the view window's picture and into the preview, as it is now: later changes show
   // with the next drawing. A machine that has no OpenGL is told of once, and its pictures stay blank.
-  void DrawShaded();
+  void Paint();
 
   // Into the preview of the View Options alone.
   void DrawPreview();

@@ -71,7 +71,7 @@ ViewPans ViewPan(const App& app) {
 double TriSeparation(const App& app) { return app.view->form51.HScroll9.value(); }
 
 double UnitsPerPixel(const App& app) {
-  const Picture& view = app.view->form36.Picture1.picture;
+  const Picture& view = app.view->form36.Picture1.measures();
   return std::abs(view.ScaleWidth()) / view.PixelWidth();
 }
 

@@ -203,7 +203,7 @@ void ViewMouse::ChooseLayer(const MouseEvent& event) {
 }
 
 void ViewMouse::ShowGreyLevel(const MouseEvent& event) {
-  const Picture& picture = app_.view->form36.Picture1.picture;
+  const Picture& picture = app_.view->form36.Picture1.picture();
   if (!picture.backdrop()) return;
   const Pixel pixel = picture.ToPixel(event.x, event.y);
   const int colour = picture.PixelAt(pixel.x, pixel.y);
@@ -318,7 +318,7 @@ void ViewMouse::ShowOverlay() {
   Form36& view = app_.view->form36;
   Shape& shape = view.Shape5;
   if (ArmedTool(app_) != Tool::PickPoints || !app_.view->form51.Check17.value()) shape.SetVisible(false);
-  auto& overlay = view.Picture1.picture.overlay;
+  auto& overlay = view.Picture1.overlay();
   overlay.clear();
   if (nextLine_) overlay.push_back(*nextLine_);
   if (shape.visible()) {
