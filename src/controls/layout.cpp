@@ -27,6 +27,12 @@ LayoutItem Flow(std::vector<Control*> controls) { return {LayoutKind::Flow, {}, 
 
 LayoutItem Single(Control& control) { return {LayoutKind::Single, {}, {&control}, {}}; }
 
+LayoutItem Upright(Control& bar) {
+  LayoutItem item = Single(bar);
+  item.isUpright = true;
+  return item;
+}
+
 LayoutItem Labelled(std::string label, Control& control) {
   return {LayoutKind::Single, std::move(label), {&control}, {}};
 }

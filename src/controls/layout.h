@@ -26,6 +26,7 @@ struct LayoutItem {
   std::vector<LayoutItem> items;   // of a Column, a Row or a Frame
   bool stretches = false;          // takes the room that is left over
   std::string toolTip = {};        // of a Frame
+  bool isUpright = false;          // of a bar that stands beside its picture
 };
 
 LayoutItem Column(std::vector<LayoutItem> items);
@@ -36,6 +37,8 @@ LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes);
 LayoutItem Flow(std::initializer_list<Control*> controls);
 LayoutItem Flow(std::vector<Control*> controls);
 LayoutItem Single(Control& control);
+// A bar from top to bottom, beside the picture that it moves.
+LayoutItem Upright(Control& bar);
 // A control with a text before it, aligned like a bar row.
 LayoutItem Labelled(std::string label, Control& control);
 LayoutItem Stretching(LayoutItem item);

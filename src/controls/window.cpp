@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "base/fault.h"
 #include "controls/control.h"
 #include "controls/lists.h"
 
@@ -46,8 +47,10 @@ Control* Window::Find(std::string_view name) const {
 }
 
 void Window::Adopt(Control& control) {
+  if (!byName_.emplace(control.name(), &control).second) {
+    throw Fault(FaultKind::InvalidValue, "two controls of the name " + control.FullName());
+  }
   controls_.push_back(&control);
-  byName_.emplace(control.name(), &control);
 }
 
 void Window::NotifyChanged() {

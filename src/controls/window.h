@@ -25,6 +25,15 @@ struct ControlHost {
   ControlListener* listener = nullptr;
 };
 
+// Where a face shows a window.
+enum class WindowRole {
+  Frame,    // around all others, with the menu bar
+  Splash,   // before the frame
+  Page,     // the picture that is worked on, in the middle
+  Options,  // beside the page, always at hand
+  Tool,
+};
+
 // All windows live as long as the program; they are shown and hidden.
 class Window {
  public:
@@ -59,15 +68,24 @@ class Window {
   const std::vector<Control*>& controls() const { return controls_; }
   const LayoutItem& layout() const { return layout_; }
 
+  // A name that a control of the window has already raises InvalidValue.
   void Adopt(Control& control);
+
+  WindowRole role() const { return role_; }
+  // The control that a person's closing of the window presses, if there is one.
+  const Control* closingControl() const { return closingControl_; }
 
  protected:
   void SetLayout(LayoutItem layout) { layout_ = std::move(layout); }
+  void SetRole(WindowRole role) { role_ = role; }
+  void SetClosingControl(const Control* control) { closingControl_ = control; }
 
  private:
   void NotifyChanged();
 
   ControlHost& host_;
+  WindowRole role_ = WindowRole::Tool;
+  const Control* closingControl_ = nullptr;
   std::string name_, caption_;
   bool visible_ = false;
   int shows_ = 0;

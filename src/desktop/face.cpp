@@ -16,14 +16,13 @@ namespace pelorium {
 
 namespace {
 
-constexpr char kFrameWindow[] = "MDIForm1";
-constexpr char kSplashWindow[] = "frmSplash";
 constexpr std::chrono::milliseconds kBetweenProgress(50);
 
-Window& Needed(App& app, const char* name) {
-  Window* window = app.FindWindow(name);
-  if (window == nullptr) throw Fault(FaultKind::InvalidValue, std::string("no window ") + name);
-  return *window;
+Window& Needed(App& app, WindowRole role) {
+  for (Window* window : app.windows()) {
+    if (window->role() == role) return *window;
+  }
+  throw Fault(FaultKind::InvalidValue, "a window is missing");
 }
 
 }  // namespace
@@ -33,8 +32,8 @@ Face::Face(App& app, Dispatcher& dispatcher)
   app_.host.listener = this;
   dispatcher_.onDelivered = [this] { Refresh(); };
   dispatcher_.onDelivering = [this] { frame_->ForgetFault(); };
-  Window& frameWindow = Needed(app, kFrameWindow);
-  Window& splashWindow = Needed(app, kSplashWindow);
+  Window& frameWindow = Needed(app, WindowRole::Frame);
+  Window& splashWindow = Needed(app, WindowRole::Splash);
   frame_ = std::make_unique<MainWindow>(frameWindow, dispatcher_);
   app_.notices.onNotice = [this](const std::string& text, NoticeKind kind) {
     frame_->ShowNotice(text, kind);
@@ -54,7 +53,7 @@ Face::~Face() {
 }
 
 void Face::Begin() {
-  Window& splash = Needed(app_, kSplashWindow);
+  Window& splash = Needed(app_, WindowRole::Splash);
   if (!splash.visible() && !app_.started) splash.Show();
   Refresh();
 }

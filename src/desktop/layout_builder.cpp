@@ -25,27 +25,12 @@ bool IsAligned(const LayoutItem& item) {
   return item.kind == LayoutKind::BarRow || (item.kind == LayoutKind::Single && !item.title.empty());
 }
 
-bool IsSingle(const LayoutItem& item, ControlKind kind) {
-  return item.kind == LayoutKind::Single && !item.controls.empty() && item.controls[0]->kind() == kind;
-}
-
-bool HoldsPicture(const LayoutItem& item) {
-  return IsSingle(item, ControlKind::PictureBox) ||
-         (item.kind != LayoutKind::Frame && std::any_of(item.items.begin(), item.items.end(), HoldsPicture));
-}
-
 // A control that keeps its size however wide its window is.
 bool IsSmall(const LayoutItem& item) {
   if (item.kind != LayoutKind::Single || item.stretches) return false;
   const ControlKind kind = item.controls.at(0)->kind();
   return kind == ControlKind::Label || kind == ControlKind::TextBox || kind == ControlKind::PushButton ||
          kind == ControlKind::CheckBox || kind == ControlKind::OptionButton;
-}
-
-// Upright bars stand beside the picture that they move.
-bool IsUprightBar(const LayoutItem& item, const LayoutItem& row) {
-  return IsSingle(item, ControlKind::ScrollBar) && item.controls[0]->name().starts_with("VScroll") &&
-         HoldsPicture(row);
 }
 
 int ColumnsOf(const std::vector<LayoutItem>& items) {
@@ -176,8 +161,7 @@ QWidget* LayoutBuilder::MakeRow(const LayoutItem& item, QWidget* parent) {
   }
   auto* layout = WithoutMargins(new QHBoxLayout(row));
   for (const LayoutItem& part : item.items) {
-    QWidget* made =
-        IsUprightBar(part, item) ? MakeControl(*part.controls[0], row, Qt::Vertical) : Make(part, row);
+    QWidget* made = part.isUpright ? MakeControl(*part.controls[0], row, Qt::Vertical) : Make(part, row);
     layout->addWidget(made, part.stretches ? 1 : 0);
   }
   return row;

@@ -23,9 +23,6 @@ namespace pelorium {
 namespace {
 
 constexpr QSize kComfortableFrame(1360, 900);
-constexpr char kOptionsWindow[] = "Form51";
-constexpr char kViewWindow[] = "Form36";
-constexpr char kExitItem[] = "exiter";
 constexpr int kCascadeSteps = 6;
 constexpr int kCascadeStep = 28;  // pixels: a title bar's height, so that each title stays in sight
 
@@ -129,13 +126,13 @@ void MainWindow::Show(WindowView& view) {
 
 // Tool windows open over the options, down the left side, so that the picture they work on stays in sight.
 void MainWindow::PlaceFirst(WindowView& view) {
-  if (view.window().name() == kOptionsWindow) {
+  if (view.window().role() == WindowRole::Options) {
     options_ = &view;
     optionsGiven_ = view.subWindow()->geometry();
     FillArea();
     return;
   }
-  if (view.window().name() == kViewWindow) {
+  if (view.window().role() == WindowRole::Page) {
     viewWindow_ = &view;
     viewGiven_ = view.subWindow()->geometry();
     FillArea();
@@ -180,7 +177,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (const Control* exit = frame_.Find(kExitItem)) dispatcher_.Press(*exit, {});
+  if (const Control* exit = frame_.closingControl()) dispatcher_.Press(*exit, {});
 }
 
 }  // namespace pelorium

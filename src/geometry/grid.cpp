@@ -7,7 +7,7 @@ namespace pelorium {
 
 namespace {
 
-constexpr int kStopAtFace = 7700;
+constexpr int kStopAtFace = kMaxFaces;  // is not written any more
 
 // The offsets of a quad's two faces from its lowest point number.
 struct Corners {

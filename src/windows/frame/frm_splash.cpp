@@ -103,6 +103,7 @@ void DrawVase(Picture& picture) {
 }  // namespace
 
 FrmSplash::FrmSplash(App& app) : Window(app.host, "frmSplash", "Pelorium"), app_(app) {
+  SetRole(WindowRole::Splash);
   DrawSky(Picture1.picture());
   DrawFloor(Picture1.picture());
   DrawVase(Picture1.picture());

@@ -37,6 +37,8 @@ MDIForm1::MDIForm1(App& app) : Window(app.host, "MDIForm1", kTitle), app_(app) {
     menu_.push_back(std::make_unique<MenuItem>(*this, std::string(command.name), std::string(command.caption),
                                                FindItem(menu_, command.menu)));
   }
+  SetRole(WindowRole::Frame);
+  SetClosingControl(FindItem(menu_, "exiter"));
 }
 
 void MDIForm1::Load() {

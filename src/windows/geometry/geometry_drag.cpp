@@ -61,7 +61,7 @@ GeometryDrag::GeometryDrag(App& app, PictureBox& picture, std::function<Geometry
   picture.onMouseDown = [this](const MouseEvent& event) { Press(event); };
   picture.onMouseMove = [this](const MouseEvent& event) { Move(event); };
   picture.onMouseUp = [this](const MouseEvent&) {
-    isDown_ = false;
+    held_.LetGo();
     ShowPath(false);
   };
   picture.onDoubleClick = [this] {
@@ -104,8 +104,7 @@ void GeometryDrag::ShowView(ViewSettings settings) {
 
 void GeometryDrag::Press(const MouseEvent& event) {
   FollowView();
-  last_ = pressed_ = event;
-  isDown_ = true;
+  held_.Press(event);
   picture_.overlay().clear();
   if (mode_() == GeometryMode::PickPoints) Pick();
   picture_.NotifyChanged();
@@ -113,22 +112,21 @@ void GeometryDrag::Press(const MouseEvent& event) {
 
 // While nothing is held, the units follow the view: they are right before the press comes.
 void GeometryDrag::Move(const MouseEvent& event) {
-  if (!isDown_) {
+  if (!held_.isActive()) {
     FollowView();
     return;
   }
-  const double dx = double{event.x} - last_.x, dy = double{event.y} - last_.y;
-  last_.x = event.x;
-  last_.y = event.y;
-  Edit(dx, dy);
+  const PictureDrag::Step step = held_.TakeStep(event);
+  Edit(step.across, step.up);
 }
 
 void GeometryDrag::Pick() {
   Trapped(app_.faults, picture_.FullName(), [this] {
-    const auto view = PickViewAt(app_, last_.x, last_.y);
+    const auto view = PickViewAt(app_, held_.lastX(), held_.lastY());
     if (!view) return;
     const SpecialEffects5& window = app_.geometry->specialeffects5;
-    PickArea area{PickShape::Rectangle, last_.x, last_.y, window.HScroll2.Shown(), window.HScroll6.Shown()};
+    PickArea area{PickShape::Rectangle, held_.lastX(), held_.lastY(), window.HScroll2.Shown(),
+                  window.HScroll6.Shown()};
     if (window.Option2.value()) {
       area.shape = PickShape::Circle;
       area.halfWidth = area.halfHeight;
@@ -145,7 +143,7 @@ void GeometryDrag::ShowPath(bool isShown) {
   auto& overlay = picture_.overlay();
   if (mode_() == GeometryMode::PickPoints || (overlay.empty() && !isShown)) return;
   overlay.clear();
-  if (isShown) overlay.push_back({pressed_.x, pressed_.y, last_.x, last_.y, kAreaColour});
+  if (isShown) overlay.push_back(held_.Way(kAreaColour));
   picture_.NotifyChanged();
 }
 
@@ -203,6 +201,6 @@ void GeometryDrag::MoveOrigin(double dx, double dy) {
 }
 
 double GeometryDrag::Speed() const { return app_.geometry->specialeffects5.Text3.Number() * kSpeed; }
-bool GeometryDrag::IsRight() const { return last_.button == MouseButton::Right; }
+bool GeometryDrag::IsRight() const { return held_.IsRight(); }
 
 }  // namespace pelorium

@@ -6,6 +6,7 @@
 
 #include "controls/picture_box.h"
 #include "views/view_settings.h"
+#include "windows/shell/picture_drag.h"
 
 namespace pelorium {
 
@@ -47,9 +48,7 @@ class GeometryDrag {
   PictureBox& picture_;
   std::function<GeometryMode()> mode_;
   int ownWidth_, ownHeight_;  // pixels, as the picture was made
-  MouseEvent pressed_;
-  MouseEvent last_;  // place of the last event, button of the press
-  bool isDown_ = false;
+  PictureDrag held_;
 };
 
 }  // namespace pelorium

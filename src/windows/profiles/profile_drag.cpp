@@ -19,28 +19,23 @@ constexpr double kDegreesPerEvent = 1;
 ProfileDrag::ProfileDrag(App& app, PictureBox& picture, const OptionButton& turns, const OptionButton& scales,
                          ProfileDragTarget target)
     : app_(app), turns_(turns), scales_(scales), target_(std::move(target)) {
-  picture.onMouseDown = [this](const MouseEvent& event) {
-    last_ = event;
-    isDown_ = true;
-  };
+  picture.onMouseDown = [this](const MouseEvent& event) { drag_.Press(event); };
   picture.onMouseMove = [this](const MouseEvent& event) {
-    if (isDown_) Drag(event);
+    if (drag_.isActive()) Drag(event);
   };
-  picture.onMouseUp = [this](const MouseEvent&) { isDown_ = false; };
+  picture.onMouseUp = [this](const MouseEvent&) { drag_.LetGo(); };
 }
 
 void ProfileDrag::Drag(const MouseEvent& event) {
-  const double dx = double{event.x} - last_.x, dy = double{event.y} - last_.y;
-  last_.x = event.x;
-  last_.y = event.y;
-  EditKeepingFinite(app_.model, [&] { Apply(target_.block(), dx, dy); });
+  const PictureDrag::Step step = drag_.TakeStep(event);
+  EditKeepingFinite(app_.model, [&] { Apply(target_.block(), step.across, step.up); });
   target_.onEdited();
 }
 
 void ProfileDrag::Apply(const ProfileBlock& block, double dx, double dy) {
   using enum Axis;
   ModelStore& model = app_.model;
-  const bool isRight = last_.button == MouseButton::Right;
+  const bool isRight = drag_.IsRight();
   if (turns_.value() || scales_.value()) {
     if (dx == 0) return;
     if (turns_.value()) {

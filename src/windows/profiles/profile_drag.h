@@ -6,6 +6,7 @@
 #include "controls/buttons.h"
 #include "controls/picture_box.h"
 #include "profiles/edit_profile_range.h"
+#include "windows/shell/picture_drag.h"
 
 namespace pelorium {
 
@@ -35,8 +36,7 @@ class ProfileDrag {
   App& app_;
   const OptionButton &turns_, &scales_;
   ProfileDragTarget target_;
-  MouseEvent last_;
-  bool isDown_ = false;
+  PictureDrag drag_;
 };
 
 }  // namespace pelorium

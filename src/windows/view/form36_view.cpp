@@ -46,6 +46,7 @@ constexpr PoseButton kPoseButtons[] = {
 }  // namespace
 
 Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mouse(app) {
+  SetRole(WindowRole::Page);
   Picture1.followsWindow = true;
   Picture1.onMouseDown = [this](const MouseEvent& event) { mouse.Down(event); };
   Picture1.onMouseMove = [this](const MouseEvent& event) { mouse.Move(event); };
@@ -99,7 +100,7 @@ LayoutItem Form36::DeclareLayout() {
            Labelled("loc y (or z)", Label5), Labelled("length", Label13)}),
       Row(std::move(totals)),
       Row({BarRow(HScroll2, {&Text1}), BarRow(VScroll2, {&Text2}), Labelled("grey level", Label53)}),
-      Stretching(Row({Stretching(Single(Picture1)), Single(VScroll1)})),
+      Stretching(Row({Stretching(Single(Picture1)), Upright(VScroll1)})),
       Single(HScroll1),
   });
 }
@@ -195,10 +196,10 @@ void Form36::ShowGreyLevel(Colour colour) {
 
 void Form36::ShowBackground() {
   const Picture& image = Picture2.picture();
-  Picture1.picture().SetBackdrop(std::make_shared<Backdrop>(
-      Backdrop{image.PixelWidth(), image.PixelHeight(),
-               std::make_shared<const std::vector<std::uint32_t>>(image.Pixels()), HScroll2.value(),
-               VScroll2.value()}));
+  Picture1.picture().SetBackdrop(
+      std::make_shared<Backdrop>(Backdrop{image.PixelWidth(), image.PixelHeight(),
+                                          std::make_shared<const std::vector<std::uint32_t>>(image.Pixels()),
+                                          HScroll2.value(), VScroll2.value()}));
   RefreshViews(app_);
 }
 

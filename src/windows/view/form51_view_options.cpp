@@ -51,6 +51,7 @@ Form51::Form51(App& app) : ToolWindow(app, "Form51", "View Options") {
       Command5, [this] { Label24.SetCaption(Calculated(Text10, Text8, Text9)); }, kChangeOnly);
   OnEdit(
       Command3, [this] { Label21.SetCaption(Calculated(Text7, Text5, Text4)); }, kChangeOnly);
+  SetRole(WindowRole::Options);
   BindViews();
   BindPreview();
   SetLayout(DeclareLayout());
@@ -77,7 +78,7 @@ void Form51::BindPreview() {
   Picture3.picture().SetScale(kPreviewSide, -kPreviewSide);
   Picture3.onMouseDown = [this](const MouseEvent& event) { Picture3_MouseDown(event); };
   Picture3.onMouseMove = [this](const MouseEvent& event) { Picture3_MouseMove(event); };
-  Picture3.onMouseUp = [this](const MouseEvent&) { isPreviewDragged_ = false; };
+  Picture3.onMouseUp = [this](const MouseEvent&) { preview_.LetGo(); };
 }
 
 LayoutItem Form51::DeclareLayout() {
@@ -183,18 +184,14 @@ void Form51::Option7_Click() {
 
 void Form51::Picture3_MouseDown(const MouseEvent& event) {
   Shaded().InitShadedContext();
-  previewX_ = ToPosition(event.x);
-  previewY_ = ToPosition(event.y);
-  isPreviewDragged_ = true;
+  preview_.Press(event);
   Shaded().DrawPreview();
 }
 
 void Form51::Picture3_MouseMove(const MouseEvent& event) {
-  if (!isPreviewDragged_) return;
+  if (!preview_.isActive()) return;
   ShadedView& shaded = Shaded();
-  shaded.DragPose(event, double{event.x} - previewX_, double{event.y} - previewY_);
-  previewX_ = ToPosition(event.x);
-  previewY_ = ToPosition(event.y);
+  shaded.DragPose(event, preview_.TakeStep(event));
   Option11.value() ? RefreshViews(app_) : shaded.DrawPreview();
 }
 

@@ -6,6 +6,7 @@
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "core/model_store.h"
+#include "windows/shell/picture_drag.h"
 #include "windows/shell/tool_window.h"
 
 namespace pelorium {
@@ -79,7 +80,7 @@ class Form51 : public ToolWindow {
   ScrollBar HScroll7{*this, "HScroll7", {1, kMaxFaces, 1, 1, 50}, "Faces Start", "first face edited"};
   Label Label12{*this, "Label12", "1"};
   ScrollBar HScroll5{*this, "HScroll5", {0, kMaxFaces, kMaxFaces, 1, 50}, "Faces End", "last face edited"};
-  Label Label10{*this, "Label10", "7700"};
+  Label Label10{*this, "Label10", std::to_string(kMaxFaces)};
   Label Label3{*this, "Label3", ""};
   Label Label19{*this, "Label19", ""};
 
@@ -119,8 +120,7 @@ class Form51 : public ToolWindow {
   void BindViews();
   LayoutItem DeclareLayout();
 
-  std::int16_t previewX_ = 0, previewY_ = 0;  // of the last event of a drag
-  bool isPreviewDragged_ = false;
+  PictureDrag preview_{PictureDrag::Places::Whole};
 };
 
 }  // namespace pelorium

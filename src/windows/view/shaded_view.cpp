@@ -102,7 +102,8 @@ bool ShadedView::Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int 
   });
 }
 
-void ShadedView::DragPose(const MouseEvent& event, double dx, double dy) {
+void ShadedView::DragPose(const MouseEvent& event, const PictureDrag::Step& step) {
+  const auto [dx, dy] = step;
   ShadedPose& pose = app_.shadedPose;
   const bool isRight = event.button == MouseButton::Right;
   if (event.keys.shift) {

@@ -5,6 +5,7 @@
 
 #include "controls/picture_box.h"
 #include "graphics/gl_surface.h"
+#include "windows/shell/picture_drag.h"
 
 namespace pelorium {
 
@@ -31,9 +32,9 @@ class ShadedView {
   // Into the preview of the View Options alone.
   void DrawPreview();
 
-  // What a drag by dx, dy (units of the picture, y upward) does to the pose: left turns about X and Z, right
+  // What a step of a drag (units of the picture, y upward) does to the pose: left turns about X and Z, right
   // about Y; with Shift left moves in X and Y, right in Z.
-  void DragPose(const MouseEvent& event, double dx, double dy);
+  void DragPose(const MouseEvent& event, const PictureDrag::Step& step);
 
  private:
   GlSurface* Surface();

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <string>
 
 #include "base/numbers.h"
@@ -19,12 +18,6 @@
 #include "windows/view/view_windows.h"
 
 namespace pelorium {
-
-std::int16_t ToPosition(float position) {
-  using Limits = std::numeric_limits<std::int16_t>;
-  const double rounded = RoundHalfEven(position);
-  return static_cast<std::int16_t>(std::clamp<double>(rounded, Limits::min(), Limits::max()));
-}
 
 namespace {
 
@@ -100,14 +93,9 @@ void ViewMouse::Guarded(Act act) {
   try {
     act();
   } catch (...) {
-    DragActive = 0;
+    drag_.LetGo();
     throw;
   }
-}
-
-void ViewMouse::Hold(const MouseEvent& event) {
-  LastX = ToPosition(event.x);
-  LastY = ToPosition(event.y);
 }
 
 void ViewMouse::Down(const MouseEvent& event) {
@@ -117,8 +105,7 @@ void ViewMouse::Down(const MouseEvent& event) {
     brushView_ = BrushViewAt(app_, event.x, event.y);
     axes_ = isTri ? DragAxesOf(pickView_->projection) : DragAxes{};
     layer_.reset();
-    DragActive = -1;
-    Hold(event);
+    drag_.Press(event);
     ShowGreyLevel(event);
     if (ArmedTool(app_) == Tool::PickPoints) PressPick(event);
     if (ArmedTool(app_) == Tool::None) ShowPicked(event);
@@ -213,11 +200,11 @@ void ViewMouse::ShowGreyLevel(const MouseEvent& event) {
 void ViewMouse::Move(const MouseEvent& event) {
   Guarded([&] {
     const bool isShaded = IsShadedChosen(app_);
-    if (isShaded && DragActive != 0) DragShaded(event);
-    if (layer_ && DragActive != 0 && MovesProfile(app_)) MoveLayer(event);
+    if (isShaded && drag_.isActive()) DragShaded(event);
+    if (layer_ && drag_.isActive() && MovesProfile(app_)) MoveLayer(event);
     ShowPlace(event);
     if (isShaded) return;
-    if (DragActive != 0) {
+    if (drag_.isActive()) {
       Brush(event);
       DragModel(app_, StepTo(event), axes_);
     }
@@ -226,18 +213,17 @@ void ViewMouse::Move(const MouseEvent& event) {
     } else if (app_.view->form36.Shape5.visible()) {
       ShowOverlay();  // picking was switched off
     }
-    if (DragActive != 0) Hold(event);
+    if (drag_.isActive()) drag_.Hold(event);
   });
 }
 
 void ViewMouse::DragShaded(const MouseEvent& event) {
-  app_.view->shadedView->DragPose(event, double{event.x} - LastX, double{event.y} - LastY);
-  Hold(event);
+  app_.view->shadedView->DragPose(event, drag_.TakeStep(event));
   app_.view->shadedView->DrawShaded();
 }
 
 DragStep ViewMouse::StepTo(const MouseEvent& event) const {
-  const double across = double{event.x} - LastX, up = double{event.y} - LastY;
+  const auto [across, up] = drag_.StepTo(event);
   return {across, up, up, event.button == MouseButton::Right, event.keys.shift};
 }
 
@@ -289,7 +275,7 @@ void ViewMouse::Brush(const MouseEvent& event) {
 // The circle follows the mouse; the rectangle grows with it while a button is held, and picks as it grows.
 void ViewMouse::MovePick(const MouseEvent& event) {
   if (!PickSettings(app_).isCircle) {
-    if (DragActive == 0 || !pickView_ || event.keys.shift) return;
+    if (!drag_.isActive() || !pickView_ || event.keys.shift) return;
     Pick(event);
     RefreshViews(app_);
   } else if (PickViewAt(app_, event.x, event.y)) {

@@ -1,12 +1,12 @@
 // The mouse on the picture of the model: what a press and a drag do in each mode.
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 
 #include "controls/picture_box.h"
 #include "views/pick_points.h"
+#include "windows/shell/picture_drag.h"
 #include "windows/view/view_drag.h"
 
 namespace pelorium {
@@ -16,9 +16,6 @@ class App;
 // Which way and where the view picture shows the model at a place of it: Top, Front and Side views, and the
 // nearest picture of the tri view. Empty where points cannot be picked.
 std::optional<PickView> PickViewAt(const App& app, double x, double y);
-
-// A position as drags keep it between events: 16 bits, half to even, held at their limits.
-std::int16_t ToPosition(float position);
 
 // A touch of the brush: a place in the plane of two model axes. The third coordinate is the origin's.
 struct BrushTouch {
@@ -34,7 +31,7 @@ class ViewMouse {
   // A fault in one of them lets go of the drag and goes on to the door of the event.
   void Down(const MouseEvent& event);
   void Move(const MouseEvent& event);
-  void Up() { DragActive = 0; }
+  void Up() { drag_.LetGo(); }
 
   // Shows the shapes that lie over the picture as they are now; the line to the mouse goes.
   void Refreshed();
@@ -45,7 +42,6 @@ class ViewMouse {
  private:
   template <typename Act>
   void Guarded(Act act);
-  void Hold(const MouseEvent& event);
 
   void PressPick(const MouseEvent& event);
   PickArea AreaAt(const MouseEvent& event) const;
@@ -69,8 +65,7 @@ class ViewMouse {
   void ShowOverlay();
 
   App& app_;
-  std::int16_t DragActive = 0;  // -1 from the press to the letting go
-  std::int16_t LastX = 0, LastY = 0;
+  PictureDrag drag_{PictureDrag::Places::Whole};
   DragAxes axes_;                                 // of the picture that was pressed on
   std::optional<PickView> pickView_, brushView_;  // as they were at the press
   float cornerX_ = 0, cornerY_ = 0;               // of the rectangle that is drawn
