@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 #include "base/fault.h"
 
@@ -115,6 +116,9 @@ bool IsTooSmall(std::string_view number) {
   return exponent < first - point;
 }
 
+// The largest number in 15 digits, which lies above it: what a file was given, it must give back.
+constexpr std::string_view kLargestForm = "1.79769313486232E+308";
+
 // Converts text that NumberLength has measured.
 double Convert(std::string_view number) {
   if (number.front() == '+') number.remove_prefix(1);
@@ -129,6 +133,11 @@ double Convert(std::string_view number) {
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
     if (IsTooSmall(number)) return 0;
+    const bool negative = number.front() == '-';
+    if (number.substr(negative ? 1 : 0) == kLargestForm) {
+      constexpr double kLargest = std::numeric_limits<double>::max();
+      return negative ? -kLargest : kLargest;
+    }
     throw Fault(FaultKind::Overflow, std::string(number.substr(0, 40)));
   }
   return value;

@@ -1,9 +1,11 @@
-// Options, the application path, and several files in turn.
+// Options, the application path, several files in turn, and going on after a failure.
 #include "script/command_line.h"
 
-#include <fstream>
+#include <sstream>
 
-#include "script_fixture.h"
+#include "platform/headless_platform.h"
+#include "support/harness.h"
+#include "windows/app.h"
 
 namespace pelorium {
 namespace {
@@ -26,19 +28,24 @@ TEST(HomeFolder, TheOptionComesFirst) {
   EXPECT_EQ(HomeFolder(line, "/env", "/bin"), "/option");
 }
 
-class PlayFiles : public ScriptTest {
+class PlayFiles : public FolderTest {
  protected:
   std::string File(const std::string& name, const std::string& text) {
-    const std::string path = testing::TempDir() + name;
-    std::ofstream(path) << text;
-    return path;
+    WriteBytes(folder() / name, text);
+    return folder() / name;
   }
 
-  int PlayThem(const std::vector<std::string>& files) {
-    ScriptRunner runner(app, platform, out, err, OnFailure::Stop);
-    std::istringstream input("get TessCount\nget FromInput\n");
+  int PlayThem(const std::vector<std::string>& files, OnFailure onFailure = OnFailure::Stop) {
+    out.str("");
+    err.str("");
+    ScriptRunner runner(app, platform, out, err, onFailure);
     return PlayAll(runner, files, input, err);
   }
+
+  HeadlessPlatform platform;
+  App app{platform, folder()};
+  std::istringstream input{"get TessCount\nquit\nget FromInput\n"};
+  std::ostringstream out, err;
 };
 
 TEST_F(PlayFiles, OneAfterTheOther) {
@@ -47,12 +54,15 @@ TEST_F(PlayFiles, OneAfterTheOther) {
   EXPECT_EQ(PlayThem({one, two, one}), 2);
   EXPECT_EQ(out.str(), "3\n3\n");
   EXPECT_EQ(err.str(), "error: " + two + ":3: there is no window \"Nothing\"\n");
+  EXPECT_EQ(PlayThem({two, one}, OnFailure::KeepGoing), 0);
+  EXPECT_EQ(out.str(), "3\n3\n");
 }
 
-TEST_F(PlayFiles, StandardInputHasAName) {
-  EXPECT_EQ(PlayThem({}), 2);
+TEST_F(PlayFiles, StandardInputIsReadNoFurtherThanPlayed) {
+  EXPECT_EQ(PlayThem({}), 0);
   EXPECT_EQ(out.str(), "1\n");
-  EXPECT_EQ(err.str(), "error: stdin:2: there is no window \"FromInput\"\n");
+  EXPECT_EQ(PlayThem({"-"}), 2);
+  EXPECT_EQ(err.str(), "error: stdin:1: there is no window \"FromInput\"\n");
 }
 
 TEST_F(PlayFiles, AMissingFileIsAnErrorUnlessAllHasEnded) {
@@ -60,7 +70,7 @@ TEST_F(PlayFiles, AMissingFileIsAnErrorUnlessAllHasEnded) {
   EXPECT_EQ(err.str(), "");
   EXPECT_EQ(PlayThem({"/nowhere/at all.pls"}), 2);
   EXPECT_EQ(err.str(), "error: /nowhere/at all.pls: cannot be opened\n");
-  EXPECT_EQ(PlayThem({testing::TempDir()}), 2);
+  EXPECT_EQ(PlayThem({folder()}), 2);
 }
 
 }  // namespace
