@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <sstream>
 
 namespace pelorium {
 
@@ -71,29 +70,6 @@ void NumberModel(ModelStore& model) {
   for (int group = 0; group <= kMaxGroup; ++group) numbers.Fill(model.MaterialGroups(group));
   model.MaterialGroups(0).usebump = model.MaterialGroups(1).useamb = 1;
   model.MaterialGroups(2).usedif = model.MaterialGroups(3).usespec = 1;
-}
-
-std::string Digest(const std::string& text, const std::vector<std::pair<int, int>>& shown) {
-  std::vector<std::string> lines;
-  std::istringstream in(text);
-  for (std::string line; std::getline(in, line);) lines.push_back(line);
-  const int count = static_cast<int>(lines.size());
-  std::ostringstream digest;
-  int next = 1;
-  const auto passOver = [&](int to) {
-    if (to > next) digest << "[" << to - next << " lines]\n";
-  };
-  for (const auto& [from, to] : shown) {
-    const int first = from < 0 ? count + 1 + from : from, last = to < 0 ? count + 1 + to : to;
-    passOver(first);
-    for (int i = first; i <= last; ++i) digest << lines.at(static_cast<std::size_t>(i - 1)) << '\n';
-    next = last + 1;
-  }
-  passOver(count + 1);
-  std::uint64_t hash = 14695981039346656037U;  // FNV-1a
-  for (const char byte : text) hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211U;
-  digest << "[" << count << " lines, " << text.size() << " bytes, " << std::hex << hash << "]\n";
-  return digest.str();
 }
 
 }  // namespace pelorium

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -33,10 +32,6 @@ std::string TextOf(Write write) {
   out.Flush();
   return sink.text();
 }
-
-// The lines first..last (from 1; from -1 at the end) of a long text with how many stand between them, and a
-// number that any change of the text changes.
-std::string Digest(const std::string& text, const std::vector<std::pair<int, int>>& shown);
 
 // What a format does not keep as it is, by the names of the fields.
 struct Losses {
