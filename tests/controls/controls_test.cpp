@@ -1,4 +1,4 @@
-// What setting, pressing and typing does to each kind of control.
+// What setting, pressing and typing does to controls; more of it in the transcripts of the scripts.
 #include <limits>
 
 #include "controls/buttons.h"
@@ -97,38 +97,6 @@ TEST_F(Bench, TypingIntoAPairMovesTheBarWithinItsLimits) {
   EXPECT_EQ(bar.value(), 0);
 }
 
-TEST_F(Bench, TextsFireOnADifferenceAndKeyUpInAnyCase) {
-  int texts = 0, keys = 0;
-  box.onChange = [&] { ++texts; };
-  box.onKeyUp = [&] { ++keys; };
-  box.SetText("0.05");
-  box.SetText("7 mm");
-  EXPECT_EQ(box.Number(), 7);
-  box.Type("7 mm");
-  box.Type("8");
-  EXPECT_EQ(texts, 2);
-  EXPECT_EQ(keys, 2);
-}
-
-TEST_F(Bench, Buttons) {
-  PushButton button(window, "Command1", "Do");
-  button.Press();  // nobody listens
-  std::string seen;
-  button.onClick = [&](const Click& click) { seen += click.IsRight() ? 'R' : 'L'; };
-  button.Press();
-  button.Press(MouseButton::Right);
-  EXPECT_EQ(seen, "LR");
-
-  CheckBox check(window, "Check1", "On", true);
-  int clicks = 0;
-  check.onClick = [&](const Click&) { ++clicks; };
-  check.SetValue(true);
-  check.Press({});
-  EXPECT_FALSE(check.value());
-  check.SetValue(true);
-  EXPECT_EQ(clicks, 2);
-}
-
 TEST_F(Bench, OptionsOfAGroupExcludeEachOther) {
   std::string seen;
   const auto tells = [&](OptionButton& button, const char* name) {
@@ -154,25 +122,6 @@ TEST_F(Bench, OptionsOfAGroupExcludeEachOther) {
   tool.Press({});
   EXPECT_TRUE(tool.value() && !next.value());
   EXPECT_EQ(seen, "2nt");
-}
-
-TEST_F(Bench, Lists) {
-  ListBox list(window, "List1");
-  int clicks = 0;
-  list.onClick = [&](const Click&) { ++clicks; };
-  EXPECT_EQ(list.chosen(), "");
-  list.SetItems({"a", "b"});
-  list.SetIndex(1);
-  list.SetIndex(1);
-  EXPECT_EQ(clicks, 1);
-  list.Pick(1);
-  EXPECT_EQ(clicks, 2);
-  EXPECT_EQ(list.chosen(), "b");
-  for (const int index : {-2, 2}) {
-    EXPECT_TRUE(Raises(FaultKind::InvalidValue, [&] { list.SetIndex(index); }));
-  }
-  list.SetItems({});
-  EXPECT_EQ(list.index(), -1);
 }
 
 TEST_F(Bench, FolderLists) {
