@@ -48,11 +48,10 @@ TEST_F(Revolve, PetalsAddUpAlongTheRing) {
   EXPECT_EQ(Laid(1, 1) + " | " + Laid(3, 3) + " | " + Laid(5, 5), "10.6 0 5 | -12.6 0 5 | 10.6 0 5");
 }
 
-TEST_F(Revolve, SpiralAndCorkscrewGrowBySections) {
+TEST_F(Revolve, EachLayerStartsAnew) {
   settings.spiral = 2;
   settings.corkscrew = 3;
-  EXPECT_EQ(Laid(2, 3), "2 13 8 | -6.6 4 11");
-  EXPECT_EQ(Laid(6, 6), "20 0 7");  // each layer starts anew
+  EXPECT_EQ(Laid(6, 6), "20 0 7");
 }
 
 TEST_F(Revolve, RegularSpacingWritesTheProfile) {
@@ -62,14 +61,16 @@ TEST_F(Revolve, RegularSpacingWritesTheProfile) {
   EXPECT_EQ(model.ProfilePts(1, 0).Z, 50);
 }
 
-TEST_F(Revolve, GeneralFieldsMoveScaleAndTurn) {
-  ProfileHeader& general = model.Profile(0);
-  general.genMultX = 2;
-  general.genMoveY = 100;
-  EXPECT_EQ(Laid(1, 1), "21.2 100 5");
-  general = ProfileHeader{};
-  general.genSpinZ = 90;
-  EXPECT_EQ(Laid(1, 1), "0 -10.6 5");
+// Worked out apart from the program, term by term.
+TEST_F(Revolve, EverySettingMovesThePoints) {
+  ProfileHeader& h = model.Profile(0);
+  h.genRotateX = 10, h.genTurnY = 20, h.genSpinZ = 30, h.genMoveX = 3, h.genMoveY = 4, h.genMoveZ = 5;
+  h.genMultX = 1.5, h.genMultY = 2.5, h.genMultZ = 3.5;
+  settings.origin = {3.5, -4.25, 5.125};
+  settings.degreesPerSection = 40, settings.spiral = 2, settings.corkscrew = 3;
+  settings.petalsX = 1, settings.petalsY = 2, settings.petalAmp = 4;
+  settings.multiplyX = 0.5, settings.multiplyY = 1.5;
+  EXPECT_EQ(Laid(1, 3), "22.1008 -15.6788 -5.239 | 41.493 10.7971 3.6086 | 50.8406 33.7793 15.5525");
 }
 
 TEST_F(Revolve, WhatIsLeftOutKeepsItsPoints) {
