@@ -6,10 +6,16 @@
 
 #include "base/files.h"
 #include "base/random_series.h"
+#include "controls/rich_text_format.h"
+#include "core/part_operations.h"
 #include "core/profile_file.h"
 #include "core/project_file.h"
+#include "interchange/text_part.h"
+#include "interchange/xyz_files.h"
+#include "platform/picture_files.h"
 
 using namespace pelorium;
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -37,14 +43,45 @@ void WriteEmptyItems(TextWriter& out) {
 }
 
 // Both forms of a profile file: what the writer makes, and one with exactly the items that the reader takes.
-void WriteProfileSeeds(const std::filesystem::path& folder, ModelStore& model) {
-  std::filesystem::create_directories(folder);
+void WriteProfileSeeds(const fs::path& folder, ModelStore& model) {
   WriteFile(folder / "written.txt", [&](TextWriter& out) { WriteProfiles(model, out); });
   constexpr int kItemsOfAProfile = 21, kItemsOfAPoint = 26, kProfiles = kMaxProfile + 1;
   WriteFile(folder / "whole.txt", [](TextWriter& out) {
     for (int i = 0; i < kProfiles * (kItemsOfAProfile + kProfiles * kItemsOfAPoint); ++i) out.Print(i % 37);
   });
   for (const char* name : {"written.txt", "whole.txt"}) ReadProfileFile(model, ReadFile(folder / name));
+}
+
+void WriteProjectSeeds(const fs::path& folder, ModelStore& model) {
+  WriteFile(folder / "tetrahedron.prj", [&](TextWriter& out) { WriteProject(model, out); });
+  WriteFile(folder / "empty_items.prj", WriteEmptyItems);
+  ReadProject(model, ReadFile(folder / "empty_items.prj"));  // a seed that no longer loads is no seed
+}
+
+void WriteMeshSeeds(const fs::path& textPart, const fs::path& xyz, const ModelStore& model) {
+  WriteFile(textPart / "tetrahedron.txt", [&](TextWriter& out) { WriteTextPart(model, 1, out); });
+  WriteFile(xyz / "faces.txt", [&](TextWriter& out) { WriteSeparateFaces(model, 1, out); });
+  WriteFile(xyz / "positions.txt", [&](TextWriter& out) { WriteProfilePositions(model, out); });
+}
+
+// Every look, a bullet, and characters of one to four bytes.
+void WriteTextSeeds(const fs::path& folder) {
+  RichText text("plain \\ {x}\ttab\nsecond\n\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
+  text.SetBullet(1, true);
+  text.ForRange(2, 9, [](TextFormat& format) { format.bold = format.underline = true; });
+  text.ForRange(8, 9, [](TextFormat& format) {
+    format.italic = true;
+    format.points = 7.5;
+    format.colour = Rgb(9, 200, 77);
+  });
+  WriteFile(folder / "written.rtf", [&](TextWriter& out) { out.Text(RichTextFile(text)); });
+  WriteFile(folder / "plain.txt", [&](TextWriter& out) { out.Text(PlainTextFile(text)); });
+}
+
+void WritePictureSeeds(const fs::path& folder) {
+  Picture picture(5, 3);
+  picture.Line(0, 0, 5, 2, Rgb(1, 2, 3));
+  SavePicture(picture, folder / "line.bmp");
 }
 
 }  // namespace
@@ -55,16 +92,21 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    const auto folder = std::filesystem::path(argv[1]) / "project";
-    std::filesystem::create_directories(folder);
+    const auto folder = [&](const char* name) {
+      const fs::path path = fs::path(argv[1]) / name;
+      fs::create_directories(path);
+      return path;
+    };
     RandomSeries random;
     ModelStore model;
     ResetModel(model, random);
     AddTetrahedron(model, 1);
-    WriteFile(folder / "tetrahedron.prj", [&](TextWriter& out) { WriteProject(model, out); });
-    WriteProfileSeeds(std::filesystem::path(argv[1]) / "profile", model);
-    WriteFile(folder / "empty_items.prj", WriteEmptyItems);
-    ReadProject(model, ReadFile(folder / "empty_items.prj"));  // a seed that no longer loads is no seed
+    SyncFaceCorners(model, 1);
+    WriteMeshSeeds(folder("text_part"), folder("xyz"), model);
+    WriteTextSeeds(folder("rich_text"));
+    WritePictureSeeds(folder("picture"));
+    WriteProfileSeeds(folder("profile"), model);
+    WriteProjectSeeds(folder("project"), model);
     return 0;
   } catch (const std::exception& fault) {
     std::fprintf(stderr, "fuzz_seeds: %s\n", fault.what());

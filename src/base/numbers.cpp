@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <optional>
 
 #include "base/fault.h"
@@ -117,6 +118,9 @@ bool IsTooSmall(std::string_view number) {
   return exponent < first - point;
 }
 
+// The largest number in 15 digits, which lies above it: what a file was given, it must give back.
+constexpr std::string_view kLargestForm = "1.79769313486232E+308";
+
 // Converts text that NumberLength has measured; nothing for a number too large for a double.
 std::optional<double> Convert(std::string_view number) {
   if (number.front() == '+') number.remove_prefix(1);
@@ -131,6 +135,11 @@ std::optional<double> Convert(std::string_view number) {
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
     if (IsTooSmall(number)) return 0;
+    const bool negative = number.front() == '-';
+    if (number.substr(negative ? 1 : 0) == kLargestForm) {
+      constexpr double kLargest = std::numeric_limits<double>::max();
+      return negative ? -kLargest : kLargest;
+    }
     return std::nullopt;
   }
   return value;

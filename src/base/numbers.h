@@ -41,7 +41,8 @@ std::string ShortestForm(float value);
 double Val(std::string_view text);
 
 // A text that is a number as a whole: sign, digits, point, exponent E or D. Anything else raises BadNumber, a
-// number beyond double raises Overflow.
+// number beyond double raises Overflow. The general form of the largest double lies beyond it and reads as
+// that.
 double WholeNumber(std::string_view text);
 
 // Stores `value` into an integer field: half to even, then the field's own range; outside it raises Overflow.

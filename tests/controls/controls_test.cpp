@@ -1,4 +1,4 @@
-// What setting, pressing and typing does to each kind of control.
+// What setting, pressing and typing does to controls; more of it in the transcripts of the scripts.
 #include <limits>
 
 #include "controls/buttons.h"
@@ -31,33 +31,25 @@ class Bench : public FolderTest {
   std::string shownAtChange;
 };
 
-TEST_F(Bench, ABarFiresOnceForADifferentValueAndNeverForAnEqualOne) {
+TEST_F(Bench, ABarFiresOnceForADifferentValueWithinItsLimits) {
   Mirror(bar, box, 100);
   bar.SetValue(5);
   EXPECT_EQ(changes, 0);
-  EXPECT_EQ(box.text(), "0.05");
   bar.SetValue(-50);
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(shownAtChange, "-0.5");
   EXPECT_EQ(bar.Shown(), -0.5);
-}
-
-TEST_F(Bench, ABarRefusesValuesOutsideItsLimits) {
-  bar.SetValue(-100);
-  bar.SetValue(400);
-  EXPECT_EQ(changes, 2);
+  for (const int value : {-100, 400}) bar.SetValue(value);
   for (const int value : {-101, 401}) {
     EXPECT_TRUE(Raises(FaultKind::InvalidValue, [&] { bar.SetValue(value); }));
     EXPECT_EQ(bar.value(), 400);
   }
-  bar.Drag(1e300);
-  EXPECT_EQ(changes, 2);
-  bar.Drag(-401);
-  EXPECT_EQ(bar.value(), -100);
-  bar.Drag(2.5);
-  EXPECT_EQ(bar.value(), 2);
-  bar.Drag(std::numeric_limits<double>::quiet_NaN());
-  EXPECT_EQ(bar.value(), -100);
+  const double kNaN = std::numeric_limits<double>::quiet_NaN();
+  for (const auto& [dragged, value] : {std::pair{1e300, 400}, {-401.0, -100}, {2.5, 2}, {kNaN, -100}}) {
+    bar.Drag(dragged);
+    EXPECT_EQ(bar.value(), value) << dragged;
+  }
+  EXPECT_EQ(changes, 6);  // 1e300 changed nothing
 }
 
 TEST_F(Bench, LimitsPullTheValue) {
@@ -123,85 +115,31 @@ TEST_F(Bench, TypingIntoAPairMovesTheBarWithinItsLimits) {
   EXPECT_EQ(bar.value(), 0);
 }
 
-TEST_F(Bench, TextsFireOnADifferenceAndKeyUpInAnyCase) {
-  int texts = 0, keys = 0;
-  box.onChange = [&] { ++texts; };
-  box.onKeyUp = [&] { ++keys; };
-  box.SetText("0.05");
-  box.SetText("7 mm");
-  EXPECT_EQ(box.Number(), 7);
-  box.Type("7 mm");
-  box.Type("8");
-  EXPECT_EQ(texts, 2);
-  EXPECT_EQ(keys, 2);
-}
-
-TEST_F(Bench, Buttons) {
-  PushButton button(window, "Command1", "Do");
-  button.Press();  // nobody listens
-  std::string seen;
-  button.onClick = [&](const Click& click) { seen += click.IsRight() ? 'R' : 'L'; };
-  button.Press();
-  button.Press(MouseButton::Right);
-  EXPECT_EQ(seen, "LR");
-
-  CheckBox check(window, "Check1", "On", true);
-  int clicks = 0;
-  check.onClick = [&](const Click&) { ++clicks; };
-  check.SetValue(true);
-  check.Press({});
-  EXPECT_FALSE(check.value());
-  check.SetValue(true);
-  EXPECT_EQ(clicks, 2);
-}
-
 TEST_F(Bench, OptionsOfAGroupExcludeEachOther) {
+  std::string seen;
+  const auto tells = [&](OptionButton& button, const char* name) {
+    button.onClick = [&seen, name](const Click&) { seen += name; };
+  };
   OptionButton one(window, "Option1", "One", "view", true), two(window, "Option2", "Two", "view");
   OptionButton other(window, "Option3", "Other", "axis", true);
-  std::string seen;
-  one.onClick = [&](const Click&) { seen += "1"; };
-  two.onClick = [&](const Click&) { seen += one.value() ? "both" : "2"; };
+  tells(one, "1"), tells(two, "2");
   two.SetValue(true);
   EXPECT_TRUE(two.value() && !one.value() && other.value());
   two.Press({});
   EXPECT_TRUE(two.value());
   two.SetValue(false);
   EXPECT_EQ(seen, "2");
-  one.Press({});
-  EXPECT_EQ(seen, "21");
-}
 
-TEST_F(Bench, AnArmedOptionMayBeDisarmedByAClick) {
-  OptionButton one(window, "Option1", "One", "tool", true, "", OptionButton::WhenArmed::IsDisarmed);
-  OptionButton two(window, "Option2", "Two", "tool", false, "", OptionButton::WhenArmed::IsDisarmed);
-  int clicks = 0;
-  one.onClick = two.onClick = [&](const Click&) { ++clicks; };
-  one.Press({});
-  EXPECT_FALSE(one.value());
-  EXPECT_EQ(clicks, 0);
-  two.Press({});
-  one.Press({});
-  EXPECT_TRUE(one.value() && !two.value());
-  EXPECT_EQ(clicks, 2);
-}
-
-TEST_F(Bench, Lists) {
-  ListBox list(window, "List1");
-  int clicks = 0;
-  list.onClick = [&](const Click&) { ++clicks; };
-  EXPECT_EQ(list.chosen(), "");
-  list.SetItems({"a", "b"});
-  list.SetIndex(1);
-  list.SetIndex(1);
-  EXPECT_EQ(clicks, 1);
-  list.Pick(1);
-  EXPECT_EQ(clicks, 2);
-  EXPECT_EQ(list.chosen(), "b");
-  for (const int index : {-2, 2}) {
-    EXPECT_TRUE(Raises(FaultKind::InvalidValue, [&] { list.SetIndex(index); }));
-  }
-  list.SetItems({});
-  EXPECT_EQ(list.index(), -1);
+  // One that is armed may be disarmed by a click.
+  OptionButton tool(window, "Option4", "One", "tool", true, "", OptionButton::WhenArmed::IsDisarmed);
+  OptionButton next(window, "Option5", "Two", "tool", false, "", OptionButton::WhenArmed::IsDisarmed);
+  tells(tool, "t"), tells(next, "n");
+  tool.Press({});
+  EXPECT_FALSE(tool.value());
+  next.Press({});
+  tool.Press({});
+  EXPECT_TRUE(tool.value() && !next.value());
+  EXPECT_EQ(seen, "2nt");
 }
 
 TEST_F(Bench, FolderLists) {
@@ -227,56 +165,36 @@ TEST_F(Bench, FolderLists) {
 }
 
 TEST(Patterns, Match) {
-  struct Row {
-    const char *name, *patterns;
-    bool matches;
-  };
-  const Row table[] = {
-      {"a.prj", "*.prj", true},
-      {"A.PRJ", "*.prj", true},
-      {"a.prj2", "*.prj", false},
-      {"a.prj2", "*.prj*", true},
-      {".prj", "*.prj", true},
-      {"prj", "*.prj", false},
-      {"a.txt", "*.prj;*.txt", true},
-      {"a.rtf", "*.txt*;*rtf", true},
-      {"x", "", false},
-      {"", "*", true},
-      {"aXbXc", "a*b*c", true},
-      {"aXbX", "a*b*c", false},
-      {"aab", "*ab", true},
-      {"abab.ab", "*ab", true},
-      {"exact", "exact", true},
-  };
-  for (const Row& row : table)
-    EXPECT_EQ(MatchesPattern(row.name, row.patterns), row.matches) << row.name << " " << row.patterns;
+  for (const auto& [name, patterns] :
+       std::initializer_list<std::pair<const char*, const char*>>{{"A.PRJ", "*.prj"},
+                                                                  {"a.prj2", "*.prj*"},
+                                                                  {".prj", "*.prj"},
+                                                                  {"a.txt", "*.prj;*.txt"},
+                                                                  {"a.rtf", "*.txt*;*rtf"},
+                                                                  {"", "*"},
+                                                                  {"aXbXc", "a*b*c"},
+                                                                  {"aab", "*ab"},
+                                                                  {"abab.ab", "*ab"},
+                                                                  {"exact", "exact"}})
+    EXPECT_TRUE(MatchesPattern(name, patterns)) << name << " " << patterns;
+  for (const auto& [name, patterns] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"a.prj2", "*.prj"}, {"prj", "*.prj"}, {"x", ""}, {"aXbX", "a*b*c"}, {"exactly", "exact"}})
+    EXPECT_FALSE(MatchesPattern(name, patterns)) << name << " " << patterns;
 }
 
+// What scripts reach is tested in their transcripts.
 TEST_F(Bench, PropertiesByName) {
-  EXPECT_EQ(GetProperty(bar, "value"), PropertyValue(5.0));
-  EXPECT_EQ(GetProperty(bar, "caption"), PropertyValue("Size"));
   EXPECT_TRUE(SetProperty(bar, "max", "3 units"));
   EXPECT_EQ(bar.value(), 3);
-  EXPECT_EQ(changes, 1);
   EXPECT_TRUE(SetProperty(bar, "largechange", 25.0));
   EXPECT_EQ(bar.largeChange, 25);
-  EXPECT_TRUE(SetProperty(bar, "value", -7.0));
-  EXPECT_EQ(changes, 2);
-  EXPECT_TRUE(Raises(FaultKind::InvalidValue, [&] { SetProperty(bar, "value", 4.0); }));
-  EXPECT_TRUE(Raises(FaultKind::Overflow, [&] { SetProperty(bar, "value", 1e10); }));
-
   EXPECT_TRUE(SetProperty(box, "text", 0.5));
   EXPECT_EQ(GetProperty(box, "value"), PropertyValue("0.5"));
-  EXPECT_TRUE(SetProperty(box, "enabled", 0.0));
-  EXPECT_FALSE(box.enabled());
   EXPECT_TRUE(SetProperty(box, "left", 12.5));
   EXPECT_EQ(box.left, 12.5);
   EXPECT_EQ(GetProperty(box, "max"), std::nullopt);
   EXPECT_FALSE(SetProperty(box, "max", 1.0));
-  EXPECT_FALSE(SetProperty(box, "nonsense", 1.0));
-}
 
-TEST_F(Bench, PropertiesOfOtherKinds) {
   ProgressBar progress(window, "ProgressBar1", 10);
   EXPECT_TRUE(SetProperty(progress, "value", 12.0));
   EXPECT_EQ(progress.value(), 10);
@@ -285,20 +203,14 @@ TEST_F(Bench, PropertiesOfOtherKinds) {
   EXPECT_FALSE(SetProperty(progress, "min", 1.0));
 
   PictureBox picture(window, "Picture1", 20, 10);
-  EXPECT_EQ(GetProperty(picture, "pixelwidth"), PropertyValue(20.0));
-  EXPECT_FALSE(SetProperty(picture, "pixelwidth", 5.0));
   EXPECT_TRUE(SetProperty(picture, "scaleheight", -15.0));
-  EXPECT_EQ(picture.measures().ScaleHeight(), -15);
   EXPECT_EQ(picture.measures().ScaleWidth(), 20);
   EXPECT_TRUE(SetProperty(picture, "forecolor", 255.0));
   EXPECT_EQ(picture.picture().foreColour, 255U);
-  EXPECT_TRUE(Raises(FaultKind::DivisionByZero, [&] { SetProperty(picture, "scalewidth", 0.0); }));
   int resized = 0;
   picture.onResize = [&](int width, int) { resized = width; };
   picture.Resize(0, 5);
   EXPECT_EQ(resized, 0);
-  picture.Resize(7, 5);
-  EXPECT_EQ(resized, 7);
 }
 
 // A face sees every change, and the new state with it.

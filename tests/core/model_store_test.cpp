@@ -4,6 +4,7 @@
 #include "base/random_series.h"
 #include "core/part_operations.h"
 #include "support/harness.h"
+#include "support/numbered_model.h"
 
 namespace pelorium {
 namespace {
@@ -67,27 +68,31 @@ TEST_F(Model, Ranges) {
   EXPECT_EQ(FirstFace(model, 0), 7);
 }
 
-TEST_F(Model, DefaultsOfPartsAndProfiles) {
-  for (const int part : {0, 3}) {
-    EXPECT_EQ(model.Part(part).PartName, "part_" + std::to_string(part));
-    EXPECT_EQ(model.Part(part).maxpoints, 0);
-    EXPECT_EQ(model.Part(part).minpoints, 1);
-    EXPECT_EQ(model.Part(part).Sections, 31);
-    const PointRec& point = model.Points(part, 23000);
-    EXPECT_EQ(point.X + point.Y + point.Z + point.u + point.v, 5);
-    EXPECT_EQ(point.onoff, 1);
-    EXPECT_EQ(model.PointMark(part, 1), 1);
-    const FaceRec& face = model.Faces(part, 7700);
-    EXPECT_EQ(face.corner1pt * face.corner2pt * face.corner3pt, 1);
-    EXPECT_EQ(face.group, part);
-    EXPECT_EQ(face.onoff, 1);
-    EXPECT_EQ(face.vt1, 0);
+template <typename Rec>
+std::string FieldsText(const std::string& name, const Rec& record) {
+  std::string text = name + "\n";
+  for (const RecordField<Rec>& field : FieldsOf<Rec>()) {
+    const FieldValue value = *GetField(record, field.name);
+    const double* number = std::get_if<double>(&value);
+    text += "  " + std::string(field.name) + " ";
+    text += (number != nullptr ? GeneralForm(*number) : std::get<std::string>(value)) + "\n";
   }
-  EXPECT_EQ(model.Profile(36).layerCount, 12);
-  EXPECT_EQ(model.Profile(0).layerSpacing, 10);
-  EXPECT_EQ(model.Profile(0).pathProfileX, 30);
-  EXPECT_EQ(model.ProfilePts(36, 36).multX, 1);
-  EXPECT_EQ(model.ProfilePts(0, 0).X, 0);
+  return text;
+}
+
+TEST_F(Model, StartsWithTheDefaultsWhateverWasThere) {
+  NumberModel(model);
+  RandomSeries again;
+  ResetModel(model, again);
+  std::string text = FieldsText("point", model.Points(1, 2)) + FieldsText("face", model.Faces(1, 2)) +
+                     FieldsText("Part", model.Part(1)) + FieldsText("profile", model.Profile(36)) +
+                     FieldsText("profile point", model.ProfilePts(36, 36)) +
+                     FieldsText("group 0", model.MaterialGroups(0)) +
+                     FieldsText("group 41", model.MaterialGroups(41));
+  EXPECT_TRUE(MatchesGolden(text, "core/golden/defaults.txt"));
+  EXPECT_EQ(model.PointMark(1, 2), 1);
+  EXPECT_EQ(model.Points(3, 23000).X, 1);
+  EXPECT_EQ(model.Faces(3, 7700).group, 3);
 }
 
 TEST_F(Model, GroupsGetTheSeriesInOrder) {
@@ -97,22 +102,7 @@ TEST_F(Model, GroupsGetTheSeriesInOrder) {
     for (const double channel : {m.KaR, m.KaG, m.KaB, m.KsR, m.KsG, m.KsB, m.KdR, m.KdG, m.KdB}) {
       EXPECT_EQ(channel * 256, static_cast<int>(again.Next() * 255));
     }
-    EXPECT_EQ(m.illum, 2);
-    EXPECT_EQ(m.Ns, 0.25);
   }
-  EXPECT_EQ(model.MaterialGroups(41).GroupName, "bone_41");
-}
-
-TEST_F(Model, HeadersSurviveTheFirstFaceAndPoint) {
-  AddFace(1, 2, 3, 4);
-  model.Part(0).PartName = "vase";
-  model.Profile(0).count = 9;
-  model.Faces(0, 1) = FaceRec{};
-  model.Points(0, 1) = PointRec{};
-  model.ProfilePts(1, 0) = ProfilePointRec{};
-  EXPECT_EQ(model.Part(0).PartName, "vase");
-  EXPECT_EQ(model.Part(0).maxfaces, 1);
-  EXPECT_EQ(model.Profile(0).count, 9);
 }
 
 TEST_F(Model, SyncCopiesTheCornersOfTheFacesInUse) {

@@ -3,19 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 #include "geometry/join_ends.h"
 #include "geometry/sections_to_profiles.h"
+#include "support/model_text.h"
 
 namespace pelorium {
 namespace {
-
-std::array<int, 3> Corners(const ModelStore& model, int face) {
-  const FaceRec& f = model.Faces(0, face);
-  return {f.corner1pt, f.corner2pt, f.corner3pt};
-}
-using Three = std::array<int, 3>;
 
 // 3 points a row and 3 rows: quads 1-2-4-5, 2-3-5-6 and the seam, twice.
 TEST(Grid, OpenSeamLeavesTheLastColumnEmpty) {
@@ -23,23 +16,16 @@ TEST(Grid, OpenSeamLeavesTheLastColumnEmpty) {
   BuildGridFaces(model, 0, 3, 3, Seam::Open);
   EXPECT_EQ(model.Part(0).maxfaces, 11);  // 3 * 2 * 2 - 1
   EXPECT_EQ(model.Part(0).minfaces, 1);
-  EXPECT_EQ(Corners(model, 1), (Three{1, 2, 4}));
-  EXPECT_EQ(Corners(model, 2), (Three{2, 5, 4}));
-  EXPECT_EQ(Corners(model, 4), (Three{3, 6, 5}));
-  EXPECT_EQ(Corners(model, 5), (Three{1, 1, 1}));
-  EXPECT_EQ(Corners(model, 6), (Three{1, 1, 1}));
-  EXPECT_EQ(Corners(model, 7), (Three{4, 5, 7}));
-  EXPECT_EQ(Corners(model, 12), (Three{1, 1, 1}));
+  EXPECT_EQ(FacesText(model, 0, 1, 7), "1 2 4 | 2 5 4 | 2 3 5 | 3 6 5 | 1 1 1 | 1 1 1 | 4 5 7");
+  EXPECT_EQ(FacesText(model, 0, 12, 12), "1 1 1");
 }
 
 TEST(Grid, WrappedSeamLeadsOneRowUp) {
   ModelStore model;
   BuildGridFaces(model, 0, 3, 3, Seam::Wrapped);
-  EXPECT_EQ(Corners(model, 5), (Three{3, 4, 6}));
-  EXPECT_EQ(Corners(model, 6), (Three{4, 7, 6}));
-  EXPECT_EQ(Corners(model, 11), (Three{6, 7, 9}));
+  EXPECT_EQ(FacesText(model, 0, 5, 6), "3 4 6 | 4 7 6");
   // Only the face that is left out of the count names a point past the ninth.
-  EXPECT_EQ(Corners(model, 12), (Three{7, 10, 9}));
+  EXPECT_EQ(FacesText(model, 0, 11, 12), "6 7 9 | 7 10 9");
 }
 
 TEST(Grid, CountsOfKnownGrids) {
@@ -59,11 +45,10 @@ TEST(Grid, StopsBeforeFace7700AndHoldsCorners) {
   model.Faces(0, 7700).corner1pt = 77;
   BuildGridFaces(model, 0, 100, 100, Seam::Wrapped);
   EXPECT_EQ(model.Part(0).maxfaces, 7700);
-  EXPECT_EQ(Corners(model, 7699), (Three{3850, 3851, 3950}));
-  EXPECT_EQ(model.Faces(0, 7700).corner1pt, 77);
+  EXPECT_EQ(FacesText(model, 0, 7699, 7700), "3850 3851 3950 | 77 1 1");
   BuildGridFaces(model, 0, 22999, 3, Seam::Wrapped);
-  EXPECT_EQ(Corners(model, 1), (Three{1, 2, 23000}));
-  EXPECT_EQ(Corners(model, 3), (Three{2, 3, 23000}));  // point 23001 does not exist
+  EXPECT_EQ(FacesText(model, 0, 1, 3),
+            "1 2 23000 | 2 23000 23000 | 2 3 23000");  // point 23001 does not exist
 }
 
 TEST(Grid, FacesKeepTheirGroupAndAreSwitchedOn) {
@@ -94,9 +79,7 @@ TEST(ProfilesFromSections, ColumnsBecomeProfiles) {
   model.Profile(1).count = 9;
   ProfilesFromSections(model, 0, 3, 2, 1);
   EXPECT_EQ(model.Profile(0).count, 2);
-  EXPECT_EQ(model.ProfilePts(0, 0).Z, 1);
-  EXPECT_EQ(model.ProfilePts(1, 0).Z, 4);
-  EXPECT_EQ(model.ProfilePts(2, 0).Z, 4);  // the pen's slot
+  EXPECT_EQ(ProfileText(model, 0, 0, 2), "1 1 1 | 1 1 4 | 1 1 4");  // the last is the pen's slot
   EXPECT_EQ(model.ProfilePts(1, 2).Z, 6);
   EXPECT_EQ(model.Profile(1).count, 9);  // the source stays
 }
@@ -106,9 +89,7 @@ TEST(Grid, StandsBehindOtherFacesAndPoints) {
   model.Faces(0, 3).corner1pt = 99;
   BuildGridFaces(model, 0, 3, 2, Seam::Open, {3, 10});
   EXPECT_EQ(model.Part(0).maxfaces, 3 + 5);
-  EXPECT_EQ(model.Faces(0, 3).corner1pt, 99);
-  EXPECT_EQ(model.Faces(0, 4).corner1pt, 11);
-  EXPECT_EQ(model.Faces(0, 4).corner3pt, 14);
+  EXPECT_EQ(FacesText(model, 0, 3, 4), "99 1 1 | 11 12 14");
   EXPECT_EQ(model.Faces(0, 7).corner2pt, 16);
 }
 

@@ -17,21 +17,6 @@ Vec3 Place(const ModelStore& model, int point) {
   return {p.X, p.Y, p.Z};
 }
 
-std::vector<double> Row(const ModelStore& model) {
-  std::vector<double> row;
-  for (int i = 1; i <= model.Part(0).maxpoints; ++i) row.push_back(model.Points(0, i).X);
-  return row;
-}
-
-void MakeRow(ModelStore& model, const std::vector<double>& places) {
-  model.Part(0).maxpoints = static_cast<std::int16_t>(places.size());
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    const int point = static_cast<int>(i) + 1;
-    model.Points(0, point).X = places[i];
-    model.PointMark(0, point) = 1;
-  }
-}
-
 // Every marked point in its order takes all others within the tolerance; the positions as they are just then.
 std::vector<Vec3> PlainWalk(const ModelStore& model, double tolerance) {
   std::vector<Vec3> p;
@@ -84,22 +69,12 @@ TEST(JoinPoints, EqualsThePlainWalk) {
   }
 }
 
-TEST(JoinPoints, OnlyMarkedPointsTakeOthers) {
-  ModelStore model;
-  MakeRow(model, {0, 2, 4, 0});
-  for (int point : {1, 3, 4}) model.PointMark(0, point) = 0;
-  EXPECT_EQ(JoinPoints(model, {0, 2}), 3);
-  EXPECT_EQ(Row(model), (std::vector<double>{2, 2, 2, 2}));
-
-  MakeRow(model, {0, 2, 4, 0});
-  EXPECT_EQ(JoinPoints(model, {0, 2}), 1);
-  EXPECT_EQ(Row(model), (std::vector<double>{0, 0, 4, 0}));
-}
-
 TEST(JoinPoints, FacesKeepTheirCopiesUnlessAsked) {
   ModelStore model;
-  MakeRow(model, {10, 11});
-  model.Points(0, 1).Y = model.Points(0, 1).Z = model.Points(0, 2).Y = model.Points(0, 2).Z = 0;
+  model.Part(0).maxpoints = 2;
+  model.Points(0, 1) = {10, 0, 0};
+  model.Points(0, 2) = {11, 0, 0};
+  model.PointMark(0, 1) = 1;
   model.Part(0).maxfaces = 1;
   FaceRec& face = model.Faces(0, 1);
   face.c1X = 9, face.c2X = 11.5, face.c3X = 13;

@@ -132,6 +132,9 @@ TEST_F(PictureFiles, OfOtherDepthsAreRead) {
       Little(0xFF010203, 4) + Little(0x040506, 4) + Little(0x070809, 4) + Little(0x0A0B0C, 4);
   EXPECT_EQ(pixels({.height = 0xFFFFFFFE, .bits = 32}, rows),  // the topmost row comes first
             (Pixels{Rgb(1, 2, 3), Rgb(4, 5, 6), Rgb(7, 8, 9), Rgb(10, 11, 12)}));
+  EXPECT_EQ(pixels({.pixelsAt = 70000, .width = 1, .height = 1},
+                   std::string(70000 - 54, '\1') + Little(0x020304, 4)),
+            Pixels{Rgb(2, 3, 4)});
   const std::string palette = Little(0x00102030, 4) + Little(0x00405060, 4);
   const std::string places = Little(0x0100, 4) + Little(0x0501, 4);  // 5 lies behind the palette
   EXPECT_EQ(pixels({.pixelsAt = 62, .bits = 8, .colours = 2}, palette + places),

@@ -2,9 +2,11 @@
 #include "support/harness.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 namespace pelorium {
 
@@ -70,6 +72,24 @@ void WriteBytes(const std::filesystem::path& path, std::string_view bytes) {
          << name << " differs at byte " << at << ", line "
          << 1 + std::count(actual.begin(), differs.first, '\n') << "\n  expected: " << LineAt(expected, at)
          << "\n  actual:   " << LineAt(actual, at) << "\n  all of it in " << out;
+}
+
+std::string Digest(const std::string& text, const std::vector<std::pair<int, int>>& shown) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  const int count = static_cast<int>(lines.size());
+  const auto held = [count](int number) { return number < 0 ? count + 1 + number : number; };
+  std::ostringstream digest;
+  for (const auto& [first, last] : shown) {
+    for (int i = held(first); i <= held(last); ++i)
+      digest << lines.at(static_cast<std::size_t>(i - 1)) << '\n';
+    digest << "...\n";
+  }
+  std::uint64_t hash = 14695981039346656037U;  // FNV-1a
+  for (const char byte : text) hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211U;
+  digest << count << " lines, " << text.size() << " bytes, " << std::hex << hash << "\n";
+  return digest.str();
 }
 
 }  // namespace pelorium

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "base/fault.h"
 #include "base/text_writer.h"
@@ -56,6 +58,10 @@ void WriteBytes(const std::filesystem::path& path, std::string_view bytes);
 // that differs and leaves the actual text beside the file as <name>.out. With PELORIUM_REWRITE_GOLDEN=1 in
 // the environment the file is rewritten instead: look at the difference before you keep it.
 ::testing::AssertionResult MatchesGolden(std::string_view actual, const std::string& name);
+
+// Of a text too long for a golden: the lines first..last that are asked for, counted from 1 or from -1 at the
+// end, and a number that any change of the text changes.
+std::string Digest(const std::string& text, const std::vector<std::pair<int, int>>& shown = {});
 
 // Passes when `body` raises a Fault of that kind.
 template <typename Body>

@@ -1,17 +1,13 @@
-// The shaded view, by the calls that it makes.
+// The shaded view, by the calls that it makes: golden/shaded_*.txt.
 #include "views/draw_shaded.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 #include "graphics/gl_recorder.h"
 #include "support/harness.h"
 
 namespace pelorium {
 namespace {
-
-using Lines = std::vector<std::string>;
 
 class Shaded : public ::testing::Test {
  protected:
@@ -38,25 +34,19 @@ class Shaded : public ::testing::Test {
     model.Part(part).maxfaces = static_cast<std::int16_t>(count);
   }
 
-  // What comes after the pose, without the changes of the depth range.
-  Lines Drawn() {
+  // The calls of a drawing, one a line.
+  std::string Drawn() {
     recorder.Restart();
     DrawShaded(model, settings, recorder);
-    Lines lines = AllLines();
-    lines.erase(lines.begin(), lines.begin() + 8);
-    std::erase_if(lines, [](const std::string& line) { return line.starts_with("DepthRange"); });
+    return Lines();
+  }
+  std::string Lines() const {
+    std::string lines;
+    for (const GlCall& call : recorder.calls()) lines += CallText(call) + "\n";
     return lines;
   }
-  Lines AllLines() const {
-    Lines lines;
-    for (const GlCall& call : recorder.calls()) lines.push_back(CallText(call));
-    return lines;
-  }
-  // The colours of the vertices drawn, one for each colour call.
-  Lines Colours() {
-    Lines lines = Drawn();
-    std::erase_if(lines, [](const std::string& line) { return !line.starts_with("Color3f"); });
-    return lines;
+  static ::testing::AssertionResult Matches(const std::string& drawn, const std::string& name) {
+    return MatchesGolden(drawn, "views/golden/shaded_" + name + ".txt");
   }
 
   ModelStore model;
@@ -72,20 +62,10 @@ TEST_F(Shaded, OneFaceInAPose) {
   settings.showEdges = true;
   model.Faces(0, 1).c1X = 99;  // the copies of the corners do not count
   model.Points(0, 2).onoff = 0;
-  DrawShaded(model, settings, recorder);
-  EXPECT_EQ(AllLines(), (Lines{"ClearColourAndDepth",  "LoadIdentity",        "Scalef 0.5 0.5 0.5",
-                               "Viewport 0 0 300 300", "Translatef 1 -2 3.5", "Rotatef 245 1 0 0",
-                               "Rotatef 10 0 1 0",     "Rotatef 45 0 0 1",
-                               "DepthRange 0.0005 1",  //
-                               "Begin Triangles",      "Color3f 0.5 0.25 0",  "Vertex3f 1 2 3",
-                               "Vertex3f 4 5 6",       "Vertex3f 7 8 9",      "End",
-                               "DepthRange 0 0.9995",  // the edges are nearer than their faces
-                               "Begin Lines",          "Color3f 0.5 0.5 0.5", "Vertex3f 1 2 3",
-                               "Vertex3f 4 5 6",       "Vertex3f 4 5 6",      "Vertex3f 7 8 9",
-                               "Vertex3f 7 8 9",       "Vertex3f 1 2 3",      "End",  //
-                               "DepthRange 0.0005 1"}));
+  EXPECT_TRUE(Matches(Drawn(), "face"));
 }
 
+// Faces 1, 59, 60 and 61 of all, then the chosen one; the last starts anew.
 TEST_F(Shaded, TintRunsInBandsOverPartsAndFacesThatAreOff) {
   settings.shown.showWire = true;
   settings.shown.showChosenFace = true;
@@ -95,30 +75,17 @@ TEST_F(Shaded, TintRunsInBandsOverPartsAndFacesThatAreOff) {
   SetFaces(1, 4);
   model.Part(0).minfaces = 0;  // a file may say so; face 0 is none
   for (int i = 2; i <= 58; ++i) model.Faces(0, i).onoff = 0;
-  EXPECT_EQ(Colours(), (Lines{"Color3f 0.5 0.25 0", "Color3f 1.08 0.83 0.58",    // faces 1 and 59
-                              "Color3f 1.09 0.84 0.59", "Color3f 1.1 0.85 0.6",  // 60 and 61
-                              "Color3f 0.9 0.9 0.9", "Color3f 0.51 0.26 0.01"}));
+  EXPECT_TRUE(Matches(Drawn(), "tint"));
 }
 
 TEST_F(Shaded, GridAndAxes) {
   settings.shown.showGrid = true;
   settings.shown.gridSpacing = 300;  // from -1000 to 800: seven lines each way
-  const Lines lines = Drawn();
-  ASSERT_EQ(lines.size(), 1U + 1 + 7 * 4 + 9 + 1);
-  EXPECT_EQ(Lines(lines.begin() + 1, lines.begin() + 6),
-            (Lines{"Color3f 0.3 0.3 0.3", "Vertex3f -1000 -1000 0", "Vertex3f 1000 -1000 0",
-                   "Vertex3f -1000 -1000 0", "Vertex3f -1000 1000 0"}));
-  EXPECT_EQ(lines[27], "Vertex3f 1000 800 0");
-  EXPECT_EQ(Lines(lines.begin() + 30, lines.end()),
-            (Lines{"Color3f 0.7 0.2 0.2", "Vertex3f -40 0 1", "Vertex3f 40 0 1", "Color3f 0.2 0.7 0.2",
-                   "Vertex3f 0 -40 1", "Vertex3f 0 40 1", "Color3f 0.2 0.2 0.7", "Vertex3f 0 0 -40",
-                   "Vertex3f 0 0 40", "End"}));
+  EXPECT_TRUE(Matches(Drawn(), "grid"));
   settings.shown.showGrid = false;
   settings.shown.showOrigin = true;
   settings.shown.origin = {10, 20, 30};
-  EXPECT_EQ(Drawn(), (Lines{"Begin Lines", "Color3f 0.7 0.2 0.2", "Vertex3f -690 20 30", "Vertex3f 710 20 30",
-                            "Color3f 0.2 0.7 0.2", "Vertex3f 10 -680 30", "Vertex3f 10 720 30",
-                            "Color3f 0.2 0.2 0.7", "Vertex3f 10 20 -670", "Vertex3f 10 20 730", "End"}));
+  EXPECT_TRUE(Matches(Drawn(), "origin"));
 }
 
 TEST_F(Shaded, ProfilesAndOtherEdges) {
@@ -129,37 +96,7 @@ TEST_F(Shaded, ProfilesAndOtherEdges) {
     model.Profile(profile).count = 1;
     model.ProfilePts(0, profile).X = model.ProfilePts(1, profile).Z = profile;
   }
-  EXPECT_EQ(Drawn(), (Lines{"Begin Lines",
-                            "Color3f 0.2 0.2 0.2",
-                            "Vertex3f 1 2 3",
-                            "Vertex3f 4 5 6",
-                            "Vertex3f 4 5 6",
-                            "Vertex3f 7 8 9",
-                            "Vertex3f 7 8 9",
-                            "Vertex3f 1 2 3",
-                            "End",  //
-                            "Begin Lines",
-                            "Color3f 0.4 0.4 0.4",
-                            "Vertex3f 5 0 0",
-                            "Vertex3f 0 0 5",
-                            "End",
-                            "PointSize 2",
-                            "Begin Points",
-                            "Color3f 0.4 0.4 0.4",
-                            "Vertex3f 5 0 0",
-                            "Vertex3f 0 0 5",
-                            "End",  //
-                            "Begin Lines",
-                            "Color3f 0.7 0.7 0.7",
-                            "Vertex3f 2 0 0",
-                            "Vertex3f 0 0 2",
-                            "End",
-                            "PointSize 3",
-                            "Begin Points",
-                            "Color3f 0.7 0 0",
-                            "Vertex3f 2 0 0",
-                            "Vertex3f 0 0 2",
-                            "End"}));
+  EXPECT_TRUE(Matches(Drawn(), "profiles"));
 }
 
 TEST_F(Shaded, MarkedPoints) {
@@ -168,10 +105,7 @@ TEST_F(Shaded, MarkedPoints) {
   settings.shown.chosenPoint = 3;
   for (const int i : {1, 2, 3}) model.PointMark(0, i) = 1;
   model.PointMark(0, 4) = 0;
-  EXPECT_EQ(Drawn(), (Lines{"PointSize 3", "Begin Points", "Color3f 0.8 0.2 0.2", "Vertex3f 4 5 6",
-                            "Color3f 1 1 0", "Vertex3f 7 8 9", "End",  //
-                            "PointSize 2", "Begin Points", "Color3f 0.39 0.39 0.78", "Vertex3f 1 2 3",
-                            "Vertex3f 4 5 6", "Vertex3f 7 8 9", "End"}));
+  EXPECT_TRUE(Matches(Drawn(), "points"));
 }
 
 TEST_F(Shaded, FaultEndsTheShape) {
@@ -186,9 +120,7 @@ TEST_F(Shaded, FaultEndsTheShape) {
   recorder.Restart();
   EXPECT_TRUE(Raises(FaultKind::Subscript, [this] { DrawShaded(model, settings, recorder); }));
   // Nothing of the face with the missing corner; the two before it stand.
-  const Lines lines = AllLines();
-  EXPECT_EQ(std::count(lines.begin(), lines.end(), "Vertex3f 4 5 6"), 1);
-  EXPECT_EQ(lines.back(), "End");
+  EXPECT_TRUE(Matches(Lines(), "fault"));
 }
 
 }  // namespace

@@ -56,20 +56,22 @@ TEST(RecordFields, RoundIntoIntegersHalfToEvenAndRefuseTheRest) {
   EXPECT_EQ(face.corner1pt, 2147483647);
 }
 
+// Behind the `members` names stand the second ones, in the order of the first from `from` on.
 template <typename Rec>
-void ExpectSame(const char* name, const char* otherName) {
-  Rec record;
-  EXPECT_TRUE(SetField(record, name, 7.0)) << name;
-  EXPECT_EQ(GetField(record, otherName), FieldValue(7.0)) << otherName;
+void ExpectSecondNames(std::size_t members, std::size_t from) {
+  const auto fields = FieldsOf<Rec>();
+  ASSERT_EQ(fields.size(), 2 * members - from);
+  for (std::size_t i = members; i < fields.size(); ++i) {
+    EXPECT_EQ(fields[i].member, fields[i - members + from].member) << fields[i].name;
+  }
 }
 
 TEST(RecordFields, ProfilesAnswerToBothNames) {
-  ExpectSame<ProfilePointRec>("AngleZ", "spinZ");
-  ExpectSame<ProfilePointRec>("LayerScale", "multZb");
-  ExpectSame<ProfilePointRec>("Bend5", "secTurnY");
-  ExpectSame<ProfilePointRec>("AddMult2Y", "addYAmt2");
-  ExpectSame<ProfileHeader>("NumLayers", "layerCount");
-  ExpectSame<ProfileHeader>("AddProfY", "pathProfileY");
+  ExpectSecondNames<ProfilePointRec>(29, 5);
+  ExpectSecondNames<ProfileHeader>(26, 2);
+  ProfilePointRec point;
+  EXPECT_TRUE(SetField(point, "Bend5", 7.0));
+  EXPECT_EQ(GetField(point, "secTurnY"), FieldValue(7.0));
 }
 
 }  // namespace
