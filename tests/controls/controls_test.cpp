@@ -146,6 +146,7 @@ TEST_F(Bench, FolderLists) {
   for (const char* name : {"b.OBJ", "a.obj", "c.txt"}) WriteBytes(folder() / name, "");
   std::filesystem::create_directory(folder() / "d.obj");
   FileList files(window, "File1", "*.obj");
+  EXPECT_EQ(files.index(), -1);
   files.SetFolder(folder());
   EXPECT_EQ(files.items(), (std::vector<std::string>{"a.obj", "b.OBJ"}));
   EXPECT_EQ(files.ChosenPath(), "");

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/fault.h"
+#include "support/model_text.h"
 #include "views/zoom.h"
 
 namespace pelorium {
@@ -99,15 +100,15 @@ TEST_F(Views, ChosenPointsCarryTheirNumberAsColour) {
 }
 
 TEST_F(Views, ProfilesShowTheirDirection) {
-  model.Profile(5).count = 1;
-  model.ProfilePts(0, 5).X = 5, model.ProfilePts(0, 5).Y = 30;
-  model.ProfilePts(1, 5).X = 50, model.ProfilePts(1, 5).Y = 30;
+  model.Profile(5).count = 2;
+  PutProfile(model, 5, 0, {{5, 30, 0}, {50, 30, 0}, {50, 60, 0}});
   settings.currentProfile = 5;
   settings.showWire = false;
   settings.showProfile = true;
   Draw();
   EXPECT_EQ(At(5, 30), Rgb(100, 100, 100));
-  EXPECT_EQ(At(50, 30), Rgb(100, 101, 100));
+  EXPECT_EQ(At(50, 30), Rgb(100, 101, 101));
+  EXPECT_EQ(At(50, 60), Rgb(100, 102, 101));
   EXPECT_EQ(At(25, 30), Rgb(150, 150, 150));
   settings.currentProfile = 0;
   settings.showProfile = false;
