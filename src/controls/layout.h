@@ -33,7 +33,7 @@ LayoutItem Column(std::vector<LayoutItem> items);
 LayoutItem Row(std::vector<LayoutItem> items);
 LayoutItem Frame(std::string title, std::vector<LayoutItem> items, std::string toolTip = {});
 // A bar, what it is for (its caption), and none, one or several boxes or labels that show its value.
-LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes);
+LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes = {});
 LayoutItem Flow(std::initializer_list<Control*> controls);
 LayoutItem Flow(std::vector<Control*> controls);
 LayoutItem Single(Control& control);

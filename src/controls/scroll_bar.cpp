@@ -62,14 +62,14 @@ void ScrollBar::Drag(double value) {
   SetValue(Clamped(value));
 }
 
-bool ScrollBar::TakeTyped(TextBox& box) {
+bool ScrollBar::TakeTyped() {
   BeginMoveByPerson();
-  const double before = number_, wanted = box.Number() * divisor_;
+  const double before = number_, wanted = mirror_->Number() * divisor_;
   const auto [low, high] = std::minmax(min_, max_);
   value_ = Clamped(wanted);
   isNumberTyped_ = wanted >= low && wanted <= high;
-  number_ = isNumberTyped_ ? box.Number() : value_ / divisor_;
-  if (!isNumberTyped_) box.ShowInstead(GeneralForm(number_));
+  number_ = isNumberTyped_ ? mirror_->Number() : value_ / divisor_;
+  if (!isNumberTyped_) mirror_->ShowInstead(GeneralForm(number_));
   NotifyChanged();
   if (number_ == before) return false;
   if (onChange) onChange();
@@ -88,7 +88,6 @@ void ScrollBar::SetMirror(TextBox& box, double divisor) {
   mirror_ = &box;
   divisor_ = divisor;
   number_ = value_ / divisor;
-  if (box.toolTip().empty()) box.SetToolTip(toolTip());
 }
 
 void ScrollBar::SetOwnValue(const PropertyValue& value) { SetValue(ToInteger<int>(AsNumber(value))); }
@@ -119,12 +118,5 @@ void ProgressBar::SetValue(int value) {
 }
 
 void ProgressBar::SetOwnValue(const PropertyValue& value) { SetValue(ToInteger<int>(AsNumber(value))); }
-
-void Mirror(ScrollBar& bar, TextBox& box, double divisor) { bar.SetMirror(box, divisor); }
-
-void Pair(ScrollBar& bar, TextBox& box, double divisor) {
-  Mirror(bar, box, divisor);
-  box.onKeyUp = [&bar, &box] { bar.TakeTyped(box); };
-}
 
 }  // namespace pelorium

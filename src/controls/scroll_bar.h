@@ -1,4 +1,4 @@
-// Scroll bars, the boxes that mirror them, and progress bars.
+// Scroll bars and progress bars.
 #pragma once
 
 #include <optional>
@@ -38,11 +38,6 @@ class ScrollBar : public Control {
   int Clamped(double value) const;
   // As a person moves it: clamped, then set.
   void Drag(double value);
-  // As a person types into the box beside it: the bar goes to the nearest whole value inside min..max, and
-  // the number itself, fractions included, is what it stands for. Outside min..max that is the limit, which
-  // the box shows when the typing is over. onChange runs when the number is another one than before; true if
-  // it did.
-  bool TakeTyped(TextBox& box);
   // True when a person moved the bar since this was last set false.
   bool movedByPerson = false;
   // Runs before the bar moves by a person's hand, whether its value changes or not.
@@ -52,9 +47,6 @@ class ScrollBar : public Control {
   // handler runs, so that nothing is written back.
   void Show(double shown);
 
-  // `box` shows value / divisor in general form from now on. Without a tool tip of its own it takes the
-  // bar's.
-  void SetMirror(TextBox& box, double divisor);
   // What the bar stands for: value / divisor, or the finer number that was typed or shown.
   double Shown() const { return number_; }
 
@@ -63,6 +55,14 @@ class ScrollBar : public Control {
 
   std::function<void()> onChange;
   int smallChange, largeChange;
+
+ protected:
+  // `box` shows value / divisor in general form from now on.
+  void SetMirror(TextBox& box, double divisor);
+  // As a person types into that box: the bar goes to the nearest whole value inside min..max, and the number
+  // itself, fractions included, is what it stands for. Outside min..max that is the limit, which the box
+  // shows when the typing is over. onChange runs when the number is another one than before; true if it did.
+  bool TakeTyped();
 
  private:
   void Store(int value);
@@ -91,10 +91,5 @@ class ProgressBar : public Control {
  private:
   int max_, value_ = 0;
 };
-
-// The box shows the bar's value / divisor.
-void Mirror(ScrollBar& bar, TextBox& box, double divisor = 1);
-// The same, and what a person types into the box moves the bar: see TakeTyped.
-void Pair(ScrollBar& bar, TextBox& box, double divisor = 1);
 
 }  // namespace pelorium

@@ -1,6 +1,7 @@
 // What setting, pressing and typing does to controls; more of it in the transcripts of the scripts.
 #include <limits>
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/lists.h"
 #include "controls/picture_box.h"
@@ -25,14 +26,13 @@ class Bench : public FolderTest {
 
   ControlHost host;
   Window window{host, "Form1", "Bench"};
-  ScrollBar bar{window, "HScroll1", {.min = -100, .max = 400, .value = 5}, "Size"};
-  TextBox box{window, "Text1", "0.05"};
+  BoxedBar bar{window, {"HScroll1", "Text1", {.min = -100, .max = 400, .value = 5}, "Size", "", 100}};
+  TextBox& box = bar.box;
   int changes = 0;
   std::string shownAtChange;
 };
 
 TEST_F(Bench, ABarFiresOnceForADifferentValueWithinItsLimits) {
-  Mirror(bar, box, 100);
   bar.SetValue(5);
   EXPECT_EQ(changes, 0);
   bar.SetValue(-50);
@@ -81,8 +81,7 @@ TEST_F(Bench, LimitsMayStandTheOtherWayRound) {
   EXPECT_EQ(swapped.Clamped(-999), -200);
 }
 
-TEST_F(Bench, TypingIntoAPairMovesTheBarWithinItsLimits) {
-  Pair(bar, box, 100);
+TEST_F(Bench, TypingIntoABoxMovesTheBarWithinItsLimits) {
   int moves = 0, texts = 0;
   bar.onMovedByPerson = [&] { ++moves; };
   box.onChange = [&] { ++texts; };
@@ -113,6 +112,45 @@ TEST_F(Bench, TypingIntoAPairMovesTheBarWithinItsLimits) {
   EXPECT_EQ(moves, 4);
   box.SetText("2");  // as the program sets it: the bar stays
   EXPECT_EQ(bar.value(), 0);
+}
+
+TEST_F(Bench, ABoxedBarIsOneDeclaration) {
+  BoxedBar exact{window,
+                 {.bar = "HScroll2",
+                  .box = "Text2",
+                  .range = {-600, 600, 36},
+                  .label = "Size",
+                  .toolTip = "of all",
+                  .divisor = kHundredths,
+                  .text = ".36",
+                  .boxTip = "as typed"},
+                 Typing::IsTheValue};
+  EXPECT_EQ(window.controls(), (std::vector<Control*>{&bar, &box, &exact, &exact.box}));
+  EXPECT_EQ(box.text() + exact.box.text(), "0.05.36");
+  EXPECT_EQ(exact.Shown(), 0.36);
+  EXPECT_EQ(exact.toolTip() + ", " + exact.box.toolTip(), "of all, as typed");
+  exact.box.Type("700.5");  // the text is the value, whatever the bar can do
+  EXPECT_EQ(exact.value(), 36);
+  EXPECT_EQ(exact.Number(), 700.5);
+  exact.SetValue(-50);
+  EXPECT_EQ(exact.Number(), -0.5);
+  exact.Reset();
+  EXPECT_EQ(exact.value(), 36);
+  EXPECT_EQ(exact.box.text(), ".36");
+
+  const LayoutItem row = BarRow(bar, {&exact});
+  EXPECT_EQ(row.title, "Size");
+  EXPECT_EQ(row.controls, (std::vector<Control*>{&bar, &box, &exact}));
+
+  struct Row {
+    BarSpec spec;
+  };
+  const BoxedBars bars = MakeBars(
+      window, std::vector<Row>{{{"HScroll3", "Text3", {}, "A", "tip"}}, {{"HScroll4", "Text4", {}, "B"}}},
+      Typing::MovesBar);
+  EXPECT_EQ(bars[0]->box.toolTip(), "tip");  // that of its bar
+  bars[1]->box.Type("7");
+  EXPECT_EQ(bars[1]->value(), 7);
 }
 
 TEST_F(Bench, OptionsOfAGroupExcludeEachOther) {
@@ -224,11 +262,10 @@ TEST_F(Bench, TheListenerHearsOfChanges) {
     std::string heard;
   } listener;
   host.listener = &listener;
-  Mirror(bar, box);
   bar.SetValue(8);
   bar.SetValue(8);
   window.Show();
-  EXPECT_EQ(listener.heard, "Form1.HScroll1=8 Form1.Text1=8 Form1 ");
+  EXPECT_EQ(listener.heard, "Form1.HScroll1=8 Form1.Text1=0.08 Form1 ");
   EXPECT_EQ(window.Find("HScroll1"), &bar);
   EXPECT_EQ(window.Find("hscroll1"), nullptr);
 }

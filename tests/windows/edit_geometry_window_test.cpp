@@ -101,7 +101,7 @@ TEST_F(EditGeometryWindow, PointsOfAGroup) {
   EXPECT_EQ(Marks(), "0111");
   app.facetools->editbyface.VScroll1.SetValue(2);  // the lowest face that has it
   window.Command11.Press();
-  EXPECT_EQ(window.Text7.text(), "1");
+  EXPECT_EQ(window.HScroll7.box.text(), "1");
 }
 
 TEST_F(EditGeometryWindow, PointsByDistanceAxisAndLayer) {
@@ -154,7 +154,7 @@ TEST_F(EditGeometryWindow, TheFaceRangeIsOneForAllWindows) {
   EXPECT_EQ(FaceRangeEnd(app), 0);
   EXPECT_EQ(Marks(), "0000");
   app.view->form51.HScroll5.Drag(2);
-  EXPECT_EQ(window.Text5.text(), "2");
+  EXPECT_EQ(window.HScroll5.box.text(), "2");
   EXPECT_EQ(Marks(), "0111");
   app.model.Part(0).maxfaces = 1;
   FollowCounts(app);  // the choice of points stays
@@ -266,7 +266,7 @@ TEST_F(EditGeometryWindow, ThePartAndItsWireFollow) {
   window.HScroll1.Drag(1);
   EXPECT_EQ(CurrentPart(app), 1);
   app.view->form51.HScroll4.SetValue(0);
-  EXPECT_EQ(window.Text1.text(), "0");
+  EXPECT_EQ(window.HScroll1.box.text(), "0");
   window.Check1.SetValue(false);
   EXPECT_FALSE(app.view->form51.Check7.value());
   app.view->form51.Check7.SetValue(true);

@@ -218,7 +218,7 @@ TEST_F(ExtrudeWindow, ClearSettingsBringsTheDefaultsBack) {
   EXPECT_EQ(app.model.ProfilePts(1, 0).X, 110);  // the drawing stays
   EXPECT_EQ(app.model.Profile(0).count, 2);
   EXPECT_EQ(Text("Text40"), "0");
-  EXPECT_EQ(app.geometry->revolveprof.Text21.text(), "0");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll31.box.text(), "0");
   EXPECT_FALSE(app.geometry->form55.Check2.value());
 }
 

@@ -41,7 +41,7 @@ TEST_F(ProfileFormulasWindow, APressFillsTheProfileChosenHere) {
   EXPECT_EQ(Point(36, 3).Y, 300);
   EXPECT_EQ(app.model.Profile(0).count, 0);
   app.view->form51.HScroll3.SetValue(8);
-  EXPECT_EQ(window.Text30.text(), "8");
+  EXPECT_EQ(window.HScroll25.box.text(), "8");
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 

@@ -152,11 +152,11 @@ TEST_F(RangeWindow, PickersFollowBothWays) {
   window.HScroll3.Drag(5);
   EXPECT_EQ(CurrentProfile(app), 5);
   app.view->form51.HScroll3.Drag(6);
-  EXPECT_EQ(window.Text6.text(), "6");
+  EXPECT_EQ(window.HScroll3.box.text(), "6");
   window.HScroll14.Drag(1);
   EXPECT_EQ(CurrentPart(app), 1);
   app.view->form51.HScroll4.Drag(0);
-  EXPECT_EQ(window.Text19.text(), "0");
+  EXPECT_EQ(window.HScroll14.box.text(), "0");
 }
 
 }  // namespace

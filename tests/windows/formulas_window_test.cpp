@@ -117,7 +117,7 @@ TEST_F(EditProfileWindow, GrayLevelsComeFromTheImage) {
   window.Command15.Press();
   EXPECT_EQ(Point(0).Z, 25);
   app.view->form36.VScroll1.SetValue(10);  // all points above the image
-  window.Text4.Type("1");
+  window.HScroll4.box.Type("1");
   window.Command15.Press();
   EXPECT_EQ(Point(0).Z, 25);
 }

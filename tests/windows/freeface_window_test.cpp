@@ -63,7 +63,7 @@ TEST_F(FreeFaceWindow, RevolvePressesTheTickedCaps) {
 TEST_F(FreeFaceWindow, TheLayerSetsTheStartPoint) {
   window.HScroll11.Drag(10);
   window.HScroll3.Drag(4);
-  EXPECT_EQ(window.Text1.text(), "41");
+  EXPECT_EQ(window.HScroll1.box.text(), "41");
   window.HScroll2.Drag(1);
   window.Command1.Press();
   EXPECT_EQ(Corners(1), (Face{41, 42, 43}));
@@ -77,7 +77,7 @@ TEST_F(FreeFaceWindow, FaceCountGoesOneBelowNone) {
   EXPECT_EQ(FaceRangeEnd(app), 0);
   window.Command2.Press();
   EXPECT_EQ(Part().maxfaces, 0);
-  window.Text21.Type("99999");
+  window.HScroll15.box.Type("99999");
   window.Command12.Press();
   window.Command2.Press();
   EXPECT_EQ(Part().maxfaces, 7700);
@@ -89,9 +89,9 @@ TEST_F(FreeFaceWindow, ChoosingAFaceShowsItWithoutWriting) {
   FaceRec& face = app.model.Faces(0, 5);
   face.corner1pt = 7, face.corner2pt = 8, face.corner3pt = 30000, face.onoff = 0;
   window.HScroll12.Drag(5);
-  EXPECT_EQ(window.Text11.text(), "7");
-  EXPECT_EQ(window.Text13.text(), "30000");
-  EXPECT_EQ(window.Text17.text(), "0");
+  EXPECT_EQ(window.HScroll16.box.text(), "7");
+  EXPECT_EQ(window.HScroll18.box.text(), "30000");
+  EXPECT_EQ(window.HScroll19.box.text(), "0");
   EXPECT_EQ(Corners(5), (Face{7, 8, 30000}));
 }
 
@@ -99,10 +99,10 @@ TEST_F(FreeFaceWindow, ChoosingAFaceShowsItWithoutWriting) {
 TEST_F(FreeFaceWindow, TheRoutedFaceShowsWhatAPartChangeBrought) {
   app.model.Faces(1, 1).corner2pt = 9;
   app.view->form51.HScroll4.SetValue(1);
-  EXPECT_EQ(window.Text12.text(), "9");
+  EXPECT_EQ(window.HScroll17.box.text(), "9");
   app.view->form51.HScroll4.SetValue(0);
   MakeCup();
-  EXPECT_EQ(window.Text13.text(), "38");
+  EXPECT_EQ(window.HScroll18.box.text(), "38");
 }
 
 TEST_F(FreeFaceWindow, CornersAreStoredOneByOne) {
@@ -113,27 +113,27 @@ TEST_F(FreeFaceWindow, CornersAreStoredOneByOne) {
   EXPECT_EQ(Corners(3), (Face{before[0], 50, before[2]}));
   EXPECT_EQ(app.model.Faces(0, 3).c2X, app.model.Points(0, 50).X);
   EXPECT_EQ(app.facetools->editbyface.VScroll1.value(), 50);
-  window.Text13.Type("60");
+  window.HScroll18.box.Type("60");
   app.view->form36.Label16.SetCaption("70");
-  window.Text11.DoubleClick();
+  window.HScroll16.box.DoubleClick();
   EXPECT_EQ(Corners(3), (Face{70, 50, 60}));
   app.view->form36.Label16.SetCaption("0");
-  window.Text12.DoubleClick();
+  window.HScroll17.box.DoubleClick();
   EXPECT_EQ(Corners(3), (Face{70, 50, 60}));
-  window.Text17.Type("0");
+  window.HScroll19.box.Type("0");
   EXPECT_EQ(app.model.Faces(0, 3).onoff, 0);
 }
 
 TEST_F(FreeFaceWindow, CommitStoresAndGoesOn) {
   window.HScroll12.Drag(4);
-  window.Text11.Type("10");
-  window.Text12.Type("11");
-  window.Text13.Type("12");
+  window.HScroll16.box.Type("10");
+  window.HScroll17.box.Type("11");
+  window.HScroll18.box.Type("12");
   window.Command10.Press();
   EXPECT_EQ(Corners(4), (Face{10, 11, 12}));
   EXPECT_EQ(Part().maxfaces, 4);
   EXPECT_EQ(window.HScroll12.value(), 5);
-  EXPECT_EQ(window.Text11.text(), "1");
+  EXPECT_EQ(window.HScroll16.box.text(), "1");
 }
 
 TEST_F(FreeFaceWindow, ProfilesBecomePoints) {
@@ -160,14 +160,14 @@ TEST_F(FreeFaceWindow, JoinMovesPointsTogether) {
   app.model.Points(0, 2).X = app.model.Points(0, 1).X + 1;
   app.model.Points(0, 2).Y = app.model.Points(0, 1).Y;
   app.geometry->specialeffects1.HScroll3.Drag(5);
-  EXPECT_EQ(app.geometry->specialeffects1.Text15.text(), "5");
+  EXPECT_EQ(app.geometry->specialeffects1.HScroll3.box.text(), "5");
   PressItem("joinitall");
   EXPECT_EQ(app.geometry->specialeffects1.HScroll3.value(), 2);
   EXPECT_EQ(app.model.Points(0, 2).X, app.model.Points(0, 1).X);
   EXPECT_EQ(app.model.Faces(0, 1).c2X, app.model.Points(0, 1).X);
   EXPECT_EQ(app.geometry->specialeffects1.ProgressBar1.value(), Part().maxpoints);
   EXPECT_EQ(Part().maxpoints, 186);
-  EXPECT_GE(Val(app.geometry->specialeffects1.Text15.text()), 1);
+  EXPECT_GE(Val(app.geometry->specialeffects1.HScroll3.box.text()), 1);
 }
 
 }  // namespace

@@ -84,10 +84,10 @@ TEST_F(HelpWindows, CopyPasteAndPrintTakeTheSelection) {
 
 TEST_F(HelpWindows, LooksGoOnTheSelection) {
   SetHelpText("one two", 0, 3);
-  app.frame->helpme.Text1.Type("100");
-  app.frame->helpme.Text1.FinishTyping();
+  app.frame->helpme.HScroll1.box.Type("100");
+  app.frame->helpme.HScroll1.box.FinishTyping();
   EXPECT_EQ(app.frame->helpme.HScroll1.value(), 72);
-  EXPECT_EQ(app.frame->helpme.Text1.text(), "72");
+  EXPECT_EQ(app.frame->helpme.HScroll1.box.text(), "72");
   app.frame->helpme.HScroll1.Drag(30);
   app.frame->helpme.HScroll2.Drag(200);
   app.frame->helpme.HScroll4.Drag(1000);

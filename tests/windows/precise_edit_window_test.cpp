@@ -45,7 +45,7 @@ TEST_F(PreciseEdit, MovesByTheTextInSteps) {
   Lay(3, 3);
   app.model.Faces(0, 1).corner2pt = 3;
   app.model.Part(0).maxfaces = 1;
-  window.Text41.Type("1.25");
+  window.HScroll10.box.Type("1.25");
   EXPECT_EQ(window.HScroll10.value(), 1);
   window.HScroll9.SetValue(2);
   for (const char* name : {"Command53", "Command55", "Command55", "Command31"}) Press(name);
@@ -186,8 +186,8 @@ TEST_F(PreciseEdit, LayersShiftAndChooseTheirPoints) {
   window.HScroll2.SetValue(35);
   Press("Command13");
   Press("Command13");
-  EXPECT_EQ(window.Text1.text(), "35");
-  EXPECT_EQ(window.Text2.text(), "36");
+  EXPECT_EQ(window.HScroll1.box.text(), "35");
+  EXPECT_EQ(window.HScroll2.box.text(), "36");
   ExpectRange(141, 10);  // far past the Part: none
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }

@@ -49,7 +49,7 @@ TEST_F(ProfileFilesWindow, EverythingShowsWhatWasOpened) {
   OpenFileOf("20");
   EXPECT_EQ(app.geometry->revolveprof.HScroll10.value(), 20);
   EXPECT_EQ(app.model.Profile(0).layerCount, 20);
-  EXPECT_EQ(app.geometry->form55.Text29.text(), "20");
+  EXPECT_EQ(app.geometry->form55.HScroll24.box.text(), "20");
   EXPECT_EQ(app.view->form51.Label17.caption(), "20");
   EXPECT_EQ(app.model.Part(0).maxfaces, 0);
   OpenFileOf("90");  // more sections than the bar holds
@@ -64,7 +64,7 @@ TEST_F(ProfileFilesWindow, AFileCutShortLeavesWhatWasRead) {
   AnswerAndPress(Profiles(), "openprof");
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);
   EXPECT_EQ(app.model.Profile(0).genMoveX, 4);
-  EXPECT_EQ(app.geometry->revolveprof.Text21.text(), "4");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll31.box.text(), "4");
   EXPECT_EQ(app.geometry->revolveprof.HScroll10.value(), 36);
   AnswerAndPress(folder() / "missing.txt", "openprof");
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);

@@ -38,11 +38,11 @@ TEST_F(RevolveWindow, APressMakesThePartAndOpensTheRanges) {
 
 TEST_F(RevolveWindow, SectionsSetDegreesAndLastPoint) {
   app.geometry->revolveprof.HScroll10.Drag(35);
-  EXPECT_EQ(app.geometry->revolveprof.Text8.text(), "35");
-  EXPECT_EQ(app.geometry->revolveprof.Text9.text(), "10.2857142857143");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll10.box.text(), "35");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll4.box.text(), "10.2857142857143");
   EXPECT_EQ(app.geometry->revolveprof.HScroll11.value(), 35);
   app.geometry->revolveprof.HScroll10.Drag(61);
-  EXPECT_EQ(app.geometry->revolveprof.Text6.text(), "61");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll11.box.text(), "61");
   EXPECT_EQ(app.model.Part(0).Sections, 61);
   EXPECT_EQ(app.view->form5.HScroll5.value(), 62);
   MakeCup();
@@ -51,7 +51,7 @@ TEST_F(RevolveWindow, SectionsSetDegreesAndLastPoint) {
 }
 
 TEST_F(RevolveWindow, APointRangeCutByHandMakesNarrowerRings) {
-  app.geometry->revolveprof.Text6.Type("18");
+  app.geometry->revolveprof.HScroll11.box.Type("18");
   MakeCup();
   EXPECT_EQ(app.model.Part(0).Sections, 18);
   EXPECT_EQ(app.model.Part(0).maxfaces, 19 * 3 * 2 - 1);
@@ -88,18 +88,18 @@ TEST_F(RevolveWindow, AutoRevolveBuildsAtEachMove) {
 
 TEST_F(RevolveWindow, PlainRevolveOfTheMenuTakesTheEffectsOff) {
   app.geometry->revolveprof.HScroll8.Drag(10);
-  app.geometry->revolveprof.Text3.Type("5");
+  app.geometry->revolveprof.HScroll5.box.Type("5");
   MakeCup();
   EXPECT_NE(app.model.Points(0, 2).X, 0);
   PressItem("revolveit1");
-  EXPECT_EQ(app.geometry->revolveprof.Text5.text(), "0");
-  EXPECT_EQ(app.geometry->revolveprof.Text3.text(), "0");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll8.box.text(), "0");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll5.box.text(), "0");
   EXPECT_NEAR(app.model.Points(0, 10).X, 0, 1e-4);
   EXPECT_NEAR(app.model.Points(0, 10).Y, 50, 1e-4);
 }
 
 TEST_F(RevolveWindow, JoinEndsMakesTheRingsMeet) {
-  app.geometry->revolveprof.Text9.Type("9.5");
+  app.geometry->revolveprof.HScroll4.box.Type("9.5");
   MakeCup();
   EXPECT_NE(app.model.Points(0, 37).X, app.model.Points(0, 1).X);
   PressItem("joinit");
@@ -113,7 +113,7 @@ TEST_F(RevolveWindow, GeneralFieldsBelongToTheProfile) {
   app.model.Profile(2).genMoveY = 5000;
   app.view->form51.HScroll3.SetValue(2);
   EXPECT_EQ(app.geometry->revolveprof.HScroll37.value(), 123);
-  EXPECT_EQ(app.geometry->revolveprof.Text27.text(), "1.234");
+  EXPECT_EQ(app.geometry->revolveprof.HScroll37.box.text(), "1.234");
   EXPECT_EQ(app.geometry->revolveprof.HScroll32.value(), 1200);
   EXPECT_EQ(app.model.Profile(2).genMultX, 1.234);  // shown, not written back
   app.geometry->revolveprof.HScroll37.Drag(150);
@@ -143,12 +143,12 @@ TEST_F(RevolveWindow, ProfilesFromTheResultLeaveTheSource) {
 }
 
 TEST_F(RevolveWindow, FaultsEndThePressQuietly) {
-  app.geometry->revolveprof.Text43.Type("-3");
+  app.geometry->revolveprof.HScroll46.box.Type("-3");
   MakeCup();
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);
   EXPECT_EQ(app.model.Part(0).maxfaces, 0);
   EXPECT_EQ(app.automaticActionsHeld, 0);
-  app.geometry->revolveprof.Text43.Type("1");
+  app.geometry->revolveprof.HScroll46.box.Type("1");
   PressItem("revolve2");
   EXPECT_EQ(app.model.Part(0).maxfaces, 221);
 }

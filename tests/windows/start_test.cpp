@@ -37,7 +37,7 @@ TEST_F(Start, LimitsOfTheSharedControls) {
   EXPECT_EQ(app.view->form5.HScroll5.max(), 36);
   EXPECT_EQ(app.view->form5.HScroll25.max(), 7700);
   EXPECT_EQ(app.view->form5.HScroll25.value(), 0);
-  EXPECT_EQ(app.view->form5.Text39.text(), "0");
+  EXPECT_EQ(app.view->form5.HScroll25.box.text(), "0");
   EXPECT_EQ(app.view->form5.HScroll20.value(), 1);
   EXPECT_EQ(app.view->form51.HScroll5.value(), 7700);
 }

@@ -30,7 +30,7 @@ TEST_F(TypedBoxes, AFractionIsWhatThePressUses) {
   ClickAt(368, -398);
   Type("Formulas.Text33", "12.5");
   EXPECT_EQ(app.profiles->formulas.HScroll28.value(), 12);
-  EXPECT_EQ(app.profiles->formulas.Text33.text(), "12.5");
+  EXPECT_EQ(app.profiles->formulas.HScroll28.box.text(), "12.5");
   Press("Formulas", "Command16");
   EXPECT_EQ(app.model.ProfilePts(0, 0).Z, 12.5);
   Type("Form55.Text36", "7.25");  // a setting of a layer
@@ -40,7 +40,7 @@ TEST_F(TypedBoxes, AFractionIsWhatThePressUses) {
 }
 
 TEST_F(TypedBoxes, OutOfRangeTheLimitCountsAndShowsOnceTheTypingIsOver) {
-  TextBox& box = app.profiles->formulas.Text33;
+  TextBox& box = app.profiles->formulas.HScroll28.box;
   Type("Formulas.Text33", "-");  // the start of -12
   EXPECT_EQ(box.text(), "-");
   Type("Formulas.Text33", "-12");
@@ -54,7 +54,7 @@ TEST_F(TypedBoxes, OutOfRangeTheLimitCountsAndShowsOnceTheTypingIsOver) {
   Type("Form51.Text3", "7");  // the Part's number
   EXPECT_EQ(app.view->form51.HScroll4.value(), 1);
   app.Deliver({"Form51", "", UserAction::CloseWindow});
-  EXPECT_EQ(app.view->form51.Text3.text(), "1");
+  EXPECT_EQ(app.view->form51.HScroll4.box.text(), "1");
 }
 
 TEST_F(TypedBoxes, ANumberTooLargeIsNone) {

@@ -112,7 +112,7 @@ TEST_F(ViewWindow, PartChoiceOpensTheRanges) {
   app.view->form51.HScroll4.SetValue(1);
   EXPECT_EQ(PointRangeStart(app), 1);
   EXPECT_EQ(PointRangeEnd(app), 9000);
-  EXPECT_EQ(app.view->form5.Text39.text(), "9000");
+  EXPECT_EQ(app.view->form5.HScroll25.box.text(), "9000");
   EXPECT_EQ(FaceRangeEnd(app), 50);
   EXPECT_EQ(app.view->form5.HScroll11.value(), 1);
   EXPECT_EQ(app.view->form5.HScroll5.value(), 61);

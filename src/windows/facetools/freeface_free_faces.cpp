@@ -25,13 +25,12 @@ namespace {
 
 constexpr int kFewestFaces = -1;  // one step below none
 
-int Held(const TextBox& box, int low, int high) {
-  return ToInteger<int>(std::clamp<double>(box.Number(), low, high));
-}
+// A typed number as a whole one in low..high.
+int Held(double number, int low, int high) { return ToInteger<int>(std::clamp<double>(number, low, high)); }
 
 // Stores what a person typed or picked, even when the bar stands there already.
-void StoreTyped(ScrollBar& bar, TextBox& box) {
-  if (!bar.TakeTyped(box)) bar.onChange();
+void StoreTyped(BoxedBar& bar) {
+  if (!bar.TakeTyped()) bar.onChange();
 }
 
 void StorePicked(ScrollBar& bar, double number) {
@@ -43,32 +42,15 @@ void StorePicked(ScrollBar& bar, double number) {
 }  // namespace
 
 FreeFace::FreeFace(App& app) : ToolWindow(app, "freeface", "freeface") {
-  BindParameters();
+  BindEndCap();
   BindCreation();
   BindCounts();
   BindRouting();
   SetLayout(DeclareLayout());
 }
 
-void FreeFace::BindParameters() {
-  for (auto [bar, box] : {std::pair{&HScroll1, &Text1},
-                          {&HScroll2, &Text2},
-                          {&HScroll3, &Text3},
-                          {&HScroll11, &Text14},
-                          {&HScroll4, &Text4},
-                          {&HScroll5, &Text5},
-                          {&HScroll6, &Text6},
-                          {&HScroll8, &Text8},
-                          {&HScroll7, &Text7},
-                          {&HScroll9, &Text9},
-                          {&HScroll10, &Text10},
-                          {&HScroll14, &Text20},
-                          {&HScroll12, &Text15}}) {
-    Pair(*bar, *box);
-  }
-  Mirror(HScroll13, Text19);
-  Mirror(HScroll15, Text21);
-  for (ScrollBar* bar : {&HScroll3, &HScroll11}) {
+void FreeFace::BindEndCap() {
+  for (BoxedBar* bar : {&HScroll3, &HScroll11}) {
     bar->onChange = [this] { HScroll1.SetValue(HScroll3.value() * HScroll11.value() + 1); };
   }
 }
@@ -100,31 +82,28 @@ void FreeFace::BindCounts() {
   for (auto [button, step] : {std::pair{&Command2, 1}, {&Command3, -1}}) {
     OnEdit(*button, [this, step] { ChangeFaceCount(app_.model.Part(CurrentPart(app_)).maxfaces + step); });
   }
-  OnEdit(Command12, [this] { ChangeFaceCount(Held(Text21, 0, kMaxFaces)); });
+  OnEdit(Command12, [this] { ChangeFaceCount(Held(HScroll15.Number(), 0, kMaxFaces)); });
   Command13.onClick = [this](const Click&) { ImportProfiles(0, kMaxProfile); };
 }
 
 void FreeFace::BindRouting() {
   struct Corner {
-    ScrollBar& bar;
-    TextBox& box;
+    BoxedBar& bar;
     std::int32_t FaceRec::*point;
   };
-  for (const Corner& c : std::initializer_list<Corner>{{HScroll16, Text11, &FaceRec::corner1pt},
-                                                       {HScroll17, Text12, &FaceRec::corner2pt},
-                                                       {HScroll18, Text13, &FaceRec::corner3pt}}) {
-    Mirror(c.bar, c.box);
+  for (const Corner& c : std::initializer_list<Corner>{{HScroll16, &FaceRec::corner1pt},
+                                                       {HScroll17, &FaceRec::corner2pt},
+                                                       {HScroll18, &FaceRec::corner3pt}}) {
     OnEdit(
         c.bar, [this, c] { StoreCorner(c.bar, c.point); }, kRefreshOnly);
-    c.box.onKeyUp = [c] { StoreTyped(c.bar, c.box); };
-    c.box.onDoubleClick = [this, c] {
+    c.bar.box.onKeyUp = [c] { StoreTyped(c.bar); };
+    c.bar.box.onDoubleClick = [this, c] {
       const double picked = Val(app_.view->form36.Label16.caption());
       if (picked > 0) StorePicked(c.bar, picked);
     };
   }
-  Mirror(HScroll19, Text17);
   OnEdit(HScroll19, [this] { RoutedFace().onoff = Narrow<std::int16_t>(HScroll19.value()); });
-  Text17.onKeyUp = [this] { StoreTyped(HScroll19, Text17); };
+  HScroll19.box.onKeyUp = [this] { StoreTyped(HScroll19); };
   HScroll12.onChange = [this] { HScroll12_Change(); };
   OnEdit(
       Command10, [this] { Command10_Click(); }, kRefreshOnly);
@@ -144,9 +123,9 @@ FreeFaceSettings FreeFace::ReadSettings() const {
   s.pieceLastLayer = HScroll7.value();
   s.pieceOffset = HScroll10.value();
   s.runStart = HScroll13.value();
-  s.radiatingStart = Held(Text19, 1, kMaxPoints);
+  s.radiatingStart = Held(HScroll13.Number(), 1, kMaxPoints);
   s.runFaces = HScroll14.value();
-  s.stripWidth = Held(Text22, 0, kMaxPoints);
+  s.stripWidth = Held(Text22.Number(), 0, kMaxPoints);
   s.stripIsClosed = app_.geometry->revolveprof.Check4.value();
   ReadBody(s);
   return s;
@@ -162,7 +141,8 @@ void FreeFace::ReadBody(FreeFaceSettings& s) const {
     s.capFaces = s.body.width - 2;
   } else {
     const int sections = app_.geometry->revolveprof.HScroll10.value();
-    s.body = {sections + Held(Text18, -kMaxPoints, kMaxPoints), app_.geometry->revolveprof.HScroll22.value()};
+    s.body = {sections + Held(Text18.Number(), -kMaxPoints, kMaxPoints),
+              app_.geometry->revolveprof.HScroll22.value()};
     s.capFaces = sections - 1;
   }
 }
@@ -236,10 +216,10 @@ void FreeFace::HScroll12_Change() {
 
 void FreeFace::Command10_Click() {
   FaceRec& face = RoutedFace();
-  face.corner1pt = Held(Text11, 1, kMaxPoints);
-  face.corner2pt = Held(Text12, 1, kMaxPoints);
-  face.corner3pt = Held(Text13, 1, kMaxPoints);
-  face.onoff = Narrow<std::int16_t>(Held(Text17, 0, 1));
+  face.corner1pt = Held(HScroll16.Number(), 1, kMaxPoints);
+  face.corner2pt = Held(HScroll17.Number(), 1, kMaxPoints);
+  face.corner3pt = Held(HScroll18.Number(), 1, kMaxPoints);
+  face.onoff = Narrow<std::int16_t>(Held(HScroll19.Number(), 0, 1));
   PartHeader& part = app_.model.Part(CurrentPart(app_));
   part.maxfaces = std::max(part.maxfaces, Narrow<std::int16_t>(HScroll12.value()));
   FinishAppending();
@@ -250,21 +230,20 @@ void FreeFace::Command10_Click() {
 // One narrow column: the picture stays in sight while faces are made.
 LayoutItem FreeFace::DeclareLayout() {
   return Column({
-      Frame("Endcap", {BarRow(HScroll1, {&Text1}), BarRow(HScroll2, {&Text2}), BarRow(HScroll3, {&Text3}),
-                       BarRow(HScroll11, {&Text14}), Flow({&Command1}), Labelled("Extra pts per row", Text18),
-                       Flow({&Command4, &Command5})}),
-      Frame("Side Cap", {BarRow(HScroll4, {&Text4}), BarRow(HScroll5, {&Text5}), BarRow(HScroll6, {&Text6}),
-                         Flow({&Command8, &Command6, &Command7})}),
-      Frame("Side Piece", {BarRow(HScroll8, {&Text8}), BarRow(HScroll7, {&Text7}), BarRow(HScroll9, {&Text9}),
-                           BarRow(HScroll10, {&Text10}), Flow({&Command9})}),
-      Frame("Create Faces",
-            {BarRow(HScroll13, {&Text19}), BarRow(HScroll14, {&Text20}), Flow({&Command11, &Command14}),
-             Labelled("Pts per row", Text22), Flow({&Command15})}),
-      Frame("Total", {BarRow(HScroll15, {&Text21}), Labelled("Faces", Text16),
+      Frame("Endcap",
+            {BarRow(HScroll1), BarRow(HScroll2), BarRow(HScroll3), BarRow(HScroll11), Flow({&Command1}),
+             Labelled("Extra pts per row", Text18), Flow({&Command4, &Command5})}),
+      Frame("Side Cap",
+            {BarRow(HScroll4), BarRow(HScroll5), BarRow(HScroll6), Flow({&Command8, &Command6, &Command7})}),
+      Frame("Side Piece",
+            {BarRow(HScroll8), BarRow(HScroll7), BarRow(HScroll9), BarRow(HScroll10), Flow({&Command9})}),
+      Frame("Create Faces", {BarRow(HScroll13), BarRow(HScroll14), Flow({&Command11, &Command14}),
+                             Labelled("Pts per row", Text22), Flow({&Command15})}),
+      Frame("Total", {BarRow(HScroll15), Labelled("Faces", Text16),
                       Flow({&Command2, &Command3, &Command12, &Command13})}),
       Frame("Face Routing",
-            {BarRow(HScroll12, {&Text15}), BarRow(HScroll16, {&Text11}), BarRow(HScroll17, {&Text12}),
-             BarRow(HScroll18, {&Text13}), BarRow(HScroll19, {&Text17}), Flow({&Command10})},
+            {BarRow(HScroll12), BarRow(HScroll16), BarRow(HScroll17), BarRow(HScroll18), BarRow(HScroll19),
+             Flow({&Command10})},
             "Create obj face by selection"),
   });
 }

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
@@ -35,57 +36,63 @@ class FreeFace : public ToolWindow {
   // Chooses an end cap's layer, and makes it when it has a start point.
   void MakeEndCap(int layer, std::optional<int> start);
 
-  ScrollBar HScroll1{
-      *this, "HScroll1", {1, kMaxPoints, 1, 1, 32}, "Start pt", "Designate start pt for end cap"};
-  TextBox Text1{*this, "Text1", "1"};
-  ScrollBar HScroll2{*this, "HScroll2", {1, 120, 34}, "Faces", "faces of the end cap"};
-  TextBox Text2{*this, "Text2", "34"};
-  ScrollBar HScroll3{*this, "HScroll3", {0, 62, 0}, "Layer", "Designate model \"Layer\" for end cap"};
-  TextBox Text3{*this, "Text3", "0"};
-  ScrollBar HScroll11{
-      *this, "HScroll11", {3, 62, 32}, "Pts per Layer", "sets pts per \"Layer\" for End cap generation "};
-  TextBox Text14{*this, "Text14", "32"};
+  BoxedBar HScroll1{
+      *this, {"HScroll1", "Text1", {1, kMaxPoints, 1, 1, 32}, "Start pt", "Designate start pt for end cap"}};
+  BoxedBar HScroll2{*this, {"HScroll2", "Text2", {1, 120, 34}, "Faces", "faces of the end cap"}};
+  BoxedBar HScroll3{*this,
+                    {"HScroll3", "Text3", {0, 62, 0}, "Layer", "Designate model \"Layer\" for end cap"}};
+  BoxedBar HScroll11{*this,
+                     {"HScroll11",
+                      "Text14",
+                      {3, 62, 32},
+                      "Pts per Layer",
+                      "sets pts per \"Layer\" for End cap generation "}};
   TextBox Text18{*this, "Text18", "1",
                  "points that a row of the body has more than the sections of Revolve Profile"};
   PushButton Command1{*this, "Command1", "Create ", "Create Endcap based on settings to the left"};
   PushButton Command4{*this, "Command4", "Create Endcap (bottom)", "closes the first layer of the body"};
   PushButton Command5{*this, "Command5", "Create Endcap (top)", "closes the last layer of the body"};
 
-  ScrollBar HScroll4{*this, "HScroll4", {1, 61, 1}, "Side # (pt on layer)", "sets starting pt for side cap"};
-  TextBox Text4{*this, "Text4", "1"};
-  ScrollBar HScroll5{*this, "HScroll5", {0, 62, 1}, "End Layer", "sets layer end pt for side cap "};
-  TextBox Text5{*this, "Text5", "1"};
-  ScrollBar HScroll6{*this, "HScroll6", {0, 62, 0}, "Start Layer", "sets start pt for layer of endcap"};
-  TextBox Text6{*this, "Text6", "0"};
+  BoxedBar HScroll4{
+      *this, {"HScroll4", "Text4", {1, 61, 1}, "Side # (pt on layer)", "sets starting pt for side cap"}};
+  BoxedBar HScroll5{*this, {"HScroll5", "Text5", {0, 62, 1}, "End Layer", "sets layer end pt for side cap "}};
+  BoxedBar HScroll6{*this,
+                    {"HScroll6", "Text6", {0, 62, 0}, "Start Layer", "sets start pt for layer of endcap"}};
   PushButton Command6{*this, "Command6", "Side Cap (start)", "Create Side Cap--based on obj profile"};
   PushButton Command7{*this, "Command7", "Side Cap (End)",
                       "closes the last points of all layers of the body"};
   PushButton Command8{*this, "Command8", "Side Cap",
                       "Create Side Cap (X,Z dir ) based on settings to the Left"};
 
-  ScrollBar HScroll8{*this, "HScroll8", {1, 61, 1}, "Side (point)", "sets pt to use for side piece"};
-  TextBox Text8{*this, "Text8", "1"};
-  ScrollBar HScroll7{*this, "HScroll7", {0, 62, 2}, "End Layer", "sets layer end pt for side piece"};
-  TextBox Text7{*this, "Text7", "2"};
-  ScrollBar HScroll9{*this, "HScroll9", {0, 62, 0}, "Start Layer", "sets layer start pt for side piece"};
-  TextBox Text9{*this, "Text9", "0"};
-  ScrollBar HScroll10{*this, "HScroll10", {0, 120, 0}, "offset", "points from the near edge to the far edge"};
-  TextBox Text10{*this, "Text10", "0"};
+  BoxedBar HScroll8{*this,
+                    {"HScroll8", "Text8", {1, 61, 1}, "Side (point)", "sets pt to use for side piece"}};
+  BoxedBar HScroll7{*this,
+                    {"HScroll7", "Text7", {0, 62, 2}, "End Layer", "sets layer end pt for side piece"}};
+  BoxedBar HScroll9{*this,
+                    {"HScroll9", "Text9", {0, 62, 0}, "Start Layer", "sets layer start pt for side piece"}};
+  BoxedBar HScroll10{
+      *this, {"HScroll10", "Text10", {0, 120, 0}, "offset", "points from the near edge to the far edge"}};
   PushButton Command9{*this, "Command9", "Create Side Piece", "two faces a layer between two sides"};
 
-  ScrollBar HScroll13{
-      *this, "HScroll13", {1, 2880, 1, 1, 32}, "Start Point", "sets pt to use for side piece"};
-  TextBox Text19{*this, "Text19", "1"};
-  ScrollBar HScroll14{
-      *this, "HScroll14", {1, 120, 34}, "# of Faces to Create", "faces of both buttons below"};
-  TextBox Text20{*this, "Text20", "34"};
+  BoxedBar HScroll13{
+      *this,
+      {"HScroll13", "Text19", {1, 2880, 1, 1, 32}, "Start Point", "sets pt to use for side piece"},
+      Typing::IsTheValue};
+  BoxedBar HScroll14{
+      *this, {"HScroll14", "Text20", {1, 120, 34}, "# of Faces to Create", "faces of both buttons below"}};
   TextBox Text22{*this, "Text22", "32", "points of a row of the strip"};
   PushButton Command11{*this, "Command11", "Create Radiating", "a fan around the start point"};
   PushButton Command14{*this, "Command14", "Create Disjoined", "each face on three points of its own"};
   PushButton Command15{*this, "Command15", "Create ", "a strip of quads over all rows of points"};
 
-  ScrollBar HScroll15{*this, "HScroll15", {0, 1200, 0}, ">>>", "Max faces"};
-  TextBox Text21{*this, "Text21", "0", "what Set Total Faces sets"};
+  BoxedBar HScroll15{*this,
+                     {.bar = "HScroll15",
+                      .box = "Text21",
+                      .range = {0, 1200, 0},
+                      .label = ">>>",
+                      .toolTip = "Max faces",
+                      .boxTip = "what Set Total Faces sets"},
+                     Typing::IsTheValue};
   TextBox Text16{*this, "Text16", "0", "faces of the Part"};
   PushButton Command2{*this, "Command2", "Incr faces", "incr total faces in obj model"};
   PushButton Command3{*this, "Command3", "Dec Faces", "decrease obj models faces"};
@@ -93,17 +100,16 @@ class FreeFace : public ToolWindow {
   PushButton Command13{*this, "Command13", "Get Profile Points",
                        "get points from profile and copy them to the selected part#"};
 
-  ScrollBar HScroll12{*this, "HScroll12", {1, 5000, 1}, "Face #", "Sets face number to edit/view or create"};
-  TextBox Text15{*this, "Text15", "1"};
-  ScrollBar HScroll16{*this, "HScroll16", {1, kMaxPoints, 1, 1, 32}, "Corner1>> Point#", kCorner1Tip};
-  TextBox Text11{*this, "Text11", "1", kCorner1Tip};
-  ScrollBar HScroll17{*this, "HScroll17", {1, kMaxPoints, 2, 1, 32}, "Corner2>> Point#", kCorner2Tip};
-  TextBox Text12{*this, "Text12", "2", kCorner2Tip};
-  ScrollBar HScroll18{*this, "HScroll18", {1, kMaxPoints, 3, 1, 32}, "Corner3>> Point#", kCorner3Tip};
-  TextBox Text13{*this, "Text13", "3", kCorner3Tip};
-  ScrollBar HScroll19{
-      *this, "HScroll19", {0, 1, 1, 1, 1}, "Face On/Off", "set face to on or off 0=off  1=on"};
-  TextBox Text17{*this, "Text17", "1"};
+  BoxedBar HScroll12{
+      *this, {"HScroll12", "Text15", {1, 5000, 1}, "Face #", "Sets face number to edit/view or create"}};
+  BoxedBar HScroll16{*this,
+                     {"HScroll16", "Text11", {1, kMaxPoints, 1, 1, 32}, "Corner1>> Point#", kCorner1Tip}};
+  BoxedBar HScroll17{*this,
+                     {"HScroll17", "Text12", {1, kMaxPoints, 2, 1, 32}, "Corner2>> Point#", kCorner2Tip}};
+  BoxedBar HScroll18{*this,
+                     {"HScroll18", "Text13", {1, kMaxPoints, 3, 1, 32}, "Corner3>> Point#", kCorner3Tip}};
+  BoxedBar HScroll19{
+      *this, {"HScroll19", "Text17", {0, 1, 1, 1, 1}, "Face On/Off", "set face to on or off 0=off  1=on"}};
   PushButton Command10{*this, "Command10", "Commit (inrc by 1 face)",
                        "stores the corners in the face and goes on to the next"};
 
@@ -115,7 +121,7 @@ class FreeFace : public ToolWindow {
   static constexpr const char* kCorner3Tip =
       "Vertex pt of model obj for face corner 3 >>> Double click to set to chosen point from main window";
 
-  void BindParameters();
+  void BindEndCap();
   void BindCreation();
   void BindCounts();
   void BindRouting();

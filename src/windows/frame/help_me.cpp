@@ -21,10 +21,6 @@ constexpr const char* kSaveFilter = "All Files (*.txt;*.rtf;*.obj)|*.txt*;*.rtf;
 }  // namespace
 
 HelpMe::HelpMe(App& app) : ToolWindow(app, "helpme", "Help/ Notes") {
-  Pair(HScroll1, Text1);
-  Pair(HScroll2, Text2);
-  Pair(HScroll3, Text3);
-  Pair(HScroll4, Text4);
   for (ScrollBar* bar : {&HScroll2, &HScroll3, &HScroll4}) bar->onChange = [this] { ShowChosenColour(); };
   ShowChosenColour();
   WireButtons();
@@ -32,8 +28,8 @@ HelpMe::HelpMe(App& app) : ToolWindow(app, "helpme", "Help/ Notes") {
       Stretching(Single(RichTextBox1)),
       Flow({&Command1, &Command2, &Command3, &Command6, &Command8, &Command9, &Command7, &Command4, &Command5,
             &Command10, &Command11}),
-      Row({Column({BarRow(HScroll1, {&Text1}), Single(Picture1)}),
-           Column({BarRow(HScroll2, {&Text2}), BarRow(HScroll3, {&Text3}), BarRow(HScroll4, {&Text4})})}),
+      Row({Column({BarRow(HScroll1), Single(Picture1)}),
+           Column({BarRow(HScroll2), BarRow(HScroll3), BarRow(HScroll4)})}),
   }));
 }
 

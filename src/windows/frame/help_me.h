@@ -3,11 +3,10 @@
 
 #include <filesystem>
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/picture_box.h"
 #include "controls/rich_text_box.h"
-#include "controls/scroll_bar.h"
-#include "controls/text_box.h"
 #include "windows/shell/tool_window.h"
 
 namespace pelorium {
@@ -34,14 +33,10 @@ class HelpMe : public ToolWindow {
   PushButton Command10{*this, "Command10", "Open", "opens a text from the notes"};
   PushButton Command11{*this, "Command11", "Save", "saves the text: as rich text if its name ends in .rtf"};
 
-  ScrollBar HScroll1{*this, "HScroll1", {6, 72, 12}, "Size", "size in points"};
-  TextBox Text1{*this, "Text1", "12", "size in points"};
-  ScrollBar HScroll2{*this, "HScroll2", {0, 255, 0}, "Red"};
-  TextBox Text2{*this, "Text2", "0"};
-  ScrollBar HScroll3{*this, "HScroll3", {0, 255, 0}, "Green"};
-  TextBox Text3{*this, "Text3", "0"};
-  ScrollBar HScroll4{*this, "HScroll4", {0, 255, 0}, "Blue"};
-  TextBox Text4{*this, "Text4", "0"};
+  BoxedBar HScroll1{*this, {"HScroll1", "Text1", {6, 72, 12}, "Size", "size in points"}};
+  BoxedBar HScroll2{*this, {"HScroll2", "Text2", {0, 255, 0}, "Red"}};
+  BoxedBar HScroll3{*this, {"HScroll3", "Text3", {0, 255, 0}, "Green"}};
+  BoxedBar HScroll4{*this, {"HScroll4", "Text4", {0, 255, 0}, "Blue"}};
   PictureBox Picture1{*this, "Picture1", 48, 24, "the colour of the bars"};
 
  private:

@@ -17,7 +17,6 @@ constexpr BarRange kMult = {-1000, 1000, 100, 1, 10};
 constexpr BarRange kGeneralMult = {-600, 600, 100, 1, 10};
 constexpr BarRange kAmount = {-1000, 1000, 0, 1, 10};
 constexpr BarRange kPicker = {0, kMaxProfile, 30, 1, 5};
-constexpr double kHundredths = 100;
 
 constexpr const char* kEffector1 = "profile whose points are the first effector";
 constexpr const char* kEffector2 = "profile whose points are the second effector";

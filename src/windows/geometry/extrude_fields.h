@@ -5,7 +5,7 @@
 #include <string_view>
 #include <variant>
 
-#include "controls/bar_table.h"
+#include "controls/boxed_bar.h"
 #include "core/model_store.h"
 
 namespace pelorium {

@@ -42,7 +42,7 @@ Form55::Form55(App& app)
 
 void Form55::BindFields() {
   for (std::size_t row = 0; row < fields_.size(); ++row) {
-    fields_[row]->bar.onChange = [this, row] {
+    fields_[row]->onChange = [this, row] {
       WriteField(row);
       ShowFieldsLike(row);
       AutoExtrude();
@@ -63,9 +63,6 @@ void Form55::BindFields() {
 }
 
 void Form55::BindPickers() {
-  Pair(HScroll24, Text29);
-  Pair(HScroll16, Text22);
-  Pair(HScroll6, Text14);
   HScroll16.onChange = [this] {
     HScroll4.SetValue(HScroll16.value());
     ShowFields();
@@ -82,7 +79,7 @@ ScrollBar& Form55::FieldBar(std::string_view name) { return *dynamic_cast<Scroll
 
 void Form55::WriteField(std::size_t row) {
   const ExtrudeField& field = ExtrudeFields()[row];
-  const ScrollBar& bar = fields_[row]->bar;
+  const ScrollBar& bar = *fields_[row];
   const int profile = CurrentProfile(app_);
   if (const auto* whole = std::get_if<std::int16_t ProfileHeader::*>(&field.field)) {
     app_.model.Profile(profile).** whole = Narrow<std::int16_t>(bar.value());
@@ -125,12 +122,12 @@ void Form55::ProfileChosen() {
 }
 
 void Form55::ShowFields() {
-  for (std::size_t row = 0; row < fields_.size(); ++row) fields_[row]->bar.Show(ReadField(row));
+  for (std::size_t row = 0; row < fields_.size(); ++row) fields_[row]->Show(ReadField(row));
 }
 
 void Form55::ShowGeneralFields() {
   for (std::size_t row = 0; row < fields_.size(); ++row) {
-    if (ExtrudeFields()[row].frame == kPositionFrame) fields_[row]->bar.Show(ReadField(row));
+    if (ExtrudeFields()[row].frame == kPositionFrame) fields_[row]->Show(ReadField(row));
   }
 }
 
@@ -138,7 +135,7 @@ void Form55::ShowGeneralFields() {
 void Form55::ShowFieldsLike(std::size_t row) {
   for (std::size_t other = 0; other < fields_.size(); ++other) {
     const bool isLike = other != row && ExtrudeFields()[other].field == ExtrudeFields()[row].field;
-    if (isLike) fields_[other]->bar.Show(ReadField(other));
+    if (isLike) fields_[other]->Show(ReadField(other));
   }
 }
 
@@ -245,7 +242,7 @@ void Form55::FinishRing(const ExtrudeSettings& settings) {
 LayoutItem Form55::FieldFrame(std::string_view title) {
   std::vector<LayoutItem> rows;
   for (std::size_t row = 0; row < fields_.size(); ++row) {
-    if (ExtrudeFields()[row].frame == title) rows.push_back(fields_[row]->Row());
+    if (ExtrudeFields()[row].frame == title) rows.push_back(BarRow(*fields_[row]));
   }
   return Frame(std::string(title), std::move(rows));
 }
@@ -254,22 +251,21 @@ LayoutItem Form55::FieldFrame(std::string_view title) {
 LayoutItem Form55::DeclareLayout() {
   LayoutItem extrude = FieldFrame(kExtrudeFrame);
   extrude.toolTip = "Extrude profile settings based on profiles XZ locations";
-  extrude.items.insert(extrude.items.begin(),
-                       {BarRow(HScroll35, {}), BarRow(HScroll2, {}), BarRow(HScroll24, {&Text29})});
+  extrude.items.insert(extrude.items.begin(), {BarRow(HScroll35), BarRow(HScroll2), BarRow(HScroll24)});
   extrude.items.push_back(Flow({&Check2, &Check3, &Check5, &Check8, &Check6}));
 
   LayoutItem layer = FieldFrame(kLayerFrame);
-  layer.items.insert(layer.items.begin(), {BarRow(HScroll16, {&Text22}), Single(Check4)});
-  layer.items.push_back(BarRow(HScroll34, {}));
+  layer.items.insert(layer.items.begin(), {BarRow(HScroll16), Single(Check4)});
+  layer.items.push_back(BarRow(HScroll34));
   LayoutItem section = FieldFrame(kSectionFrame);
-  section.items.insert(section.items.begin(), BarRow(HScroll6, {&Text14}));
-  section.items.push_back(BarRow(HScroll12, {}));
+  section.items.insert(section.items.begin(), BarRow(HScroll6));
+  section.items.push_back(BarRow(HScroll12));
 
   LayoutItem paths = FieldFrame(kPathFrame);
   paths.toolTip = "Chosen profiles for effects in XYZ dir --generally";
   LayoutItem position = FieldFrame(kPositionFrame);
   position.toolTip = "Settings for final location of extruded obj ";
-  position.items.push_back(BarRow(HScroll43, {}));
+  position.items.push_back(BarRow(HScroll43));
   return Column({
       Flow({&Command30, &Check1, &Command33}),
       std::move(extrude),

@@ -5,10 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/bar_table.h"
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/scroll_bar.h"
-#include "controls/text_box.h"
 #include "core/model_store.h"
 #include "geometry/extrude.h"
 #include "windows/shell/tool_window.h"
@@ -31,12 +30,12 @@ class Form55 : public ToolWindow {
   ScrollBar HScroll35{
       *this, "HScroll35", {0, kMaxProfile, 0, 1, 5}, "Profile #", "the profile that is extruded"};
   ScrollBar HScroll2{*this, "HScroll2", {0, kUserParts - 1, 0, 1, 1}, "Part #", "the Part that is made"};
-  ScrollBar HScroll24{*this,
-                      "HScroll24",
+  BoxedBar HScroll24{*this,
+                     {"HScroll24",
+                      "Text29",
                       {0, kMaxLayer, 12, 1, 5},
                       "Sections",
-                      "Sets number of Sections created in extrude "};
-  TextBox Text29{*this, "Text29", "12"};
+                      "Sets number of Sections created in extrude "}};
   CheckBox Check2{*this, "Check2", "Bottom Cap", false, "closes the body on its last layer"};
   CheckBox Check3{*this, "Check3", "Top Cap", false, "closes the body on its first layer"};
   CheckBox Check1{*this, "Check1", "Auto Extrude", false, "extrudes anew at every change of a setting"};
@@ -47,10 +46,10 @@ class Form55 : public ToolWindow {
   PushButton Command33{*this, "Command33", "Clear Settings", "resets everthing back to default settings"};
   PushButton Command30{*this, "Command30", "Extrude", "Extrude profile along path and effects"};
 
-  ScrollBar HScroll16{*this, "HScroll16", {0, kMaxLayer, 0, 1, 5}, "Layer", "the layer that is bent"};
-  TextBox Text22{*this, "Text22", "0"};
-  ScrollBar HScroll6{*this, "HScroll6", {0, kMaxLayer, 0, 1, 5}, "Section", "the section that is bent"};
-  TextBox Text14{*this, "Text14", "0"};
+  BoxedBar HScroll16{*this,
+                     {"HScroll16", "Text22", {0, kMaxLayer, 0, 1, 5}, "Layer", "the layer that is bent"}};
+  BoxedBar HScroll6{*this,
+                    {"HScroll6", "Text14", {0, kMaxLayer, 0, 1, 5}, "Section", "the section that is bent"}};
   // The profile's and the layer's selector once more, where nobody sees them.
   ScrollBar HScroll36{*this, "HScroll36", {0, kMaxProfile, 0, 1, 5}, "Profile #"};
   ScrollBar HScroll4{*this, "HScroll4", {0, kMaxLayer, 0, 1, 5}, "Layer"};
@@ -86,7 +85,7 @@ class Form55 : public ToolWindow {
   LayoutItem FieldFrame(std::string_view title);
   LayoutItem DeclareLayout();
 
-  TableBars fields_;
+  BoxedBars fields_;
   bool showing_ = false;  // the ticks are being filled from the profile
 };
 

@@ -21,10 +21,9 @@ namespace pelorium {
 namespace {
 
 constexpr int kMostSections = 61;
-constexpr double kHundredths = 100;
 
 // A typed end of a range, held in that of its bar: a loop over it ends.
-int HeldIn(const ScrollBar& bar, const TextBox& box) { return bar.Clamped(box.Number()); }
+int HeldIn(const BoxedBar& bar) { return bar.Clamped(bar.Number()); }
 
 }  // namespace
 
@@ -32,48 +31,20 @@ RevolveProf::RevolveProf(App& app) : ToolWindow(app, "revolveprof", "Revolve Pro
   BindParameters();
   BindGeneralFields();
   HScroll10.onChange = [this] { HScroll10_Change(); };
-  for (ScrollBar* bar : {&HScroll10, &HScroll22}) {
-    bar->onMovedByPerson = [this] { app_.model.Part(CurrentPart(app_)).grid.reset(); };
-  }
+  HScroll10.onMovedByPerson =
+      HScroll22.onMovedByPerson = [this] { app_.model.Part(CurrentPart(app_)).grid.reset(); };
   OnEdit(Command15, [this] { Command15_Click(); }, {.syncs = false, .holds = true});
   OnEdit(Command18, [this] { JoinRingEnds(app_.model, CurrentPart(app_), PointsPerLayer(app_)); });
   SetLayout(DeclareLayout());
 }
 
-// Boxes that are parameters themselves only mirror their bar; typing into the others moves the bar.
 void RevolveProf::BindParameters() {
-  struct Parameter {
-    ScrollBar& bar;
-    TextBox& box;
-    double divisor = 1;
-  };
-  for (const Parameter& p : std::initializer_list<Parameter>{{HScroll9, Text7},
-                                                             {HScroll11, Text6},
-                                                             {HScroll3, Text33},
-                                                             {HScroll6, Text34},
-                                                             {HScroll46, Text43},
-                                                             {HScroll1, Text1},
-                                                             {HScroll5, Text3},
-                                                             {HScroll8, Text5},
-                                                             {HScroll4, Text9, kHundredths},
-                                                             {HScroll2, Text45, kHundredths},
-                                                             {HScroll16, Text12, kHundredths},
-                                                             {HScroll17, Text13, kHundredths}}) {
-    Mirror(p.bar, p.box, p.divisor);
-    p.bar.onChange = [this] { AutoRevolve(); };
+  for (ScrollBar* bar : std::initializer_list<ScrollBar*>{
+           &HScroll9,  &HScroll11, &HScroll3,  &HScroll6,  &HScroll46, &HScroll1,  &HScroll5,
+           &HScroll8,  &HScroll4,  &HScroll2,  &HScroll16, &HScroll17, &HScroll48, &HScroll47,
+           &HScroll49, &HScroll50, &HScroll15, &HScroll13, &HScroll42, &HScroll22}) {
+    bar->onChange = [this] { AutoRevolve(); };
   }
-  for (const Parameter& p : std::initializer_list<Parameter>{{HScroll48, Text40},
-                                                             {HScroll47, Text41},
-                                                             {HScroll49, Text44},
-                                                             {HScroll50, Text47},
-                                                             {HScroll15, Text46},
-                                                             {HScroll13, Text11},
-                                                             {HScroll42, Text39}}) {
-    Pair(p.bar, p.box, p.divisor);
-    p.bar.onChange = [this] { AutoRevolve(); };
-  }
-  Pair(HScroll10, Text8);
-  HScroll22.onChange = [this] { AutoRevolve(); };
   for (CheckBox* tick :
        {&Check14, &Check4, &Check2, &Check1, &Check8, &Check6, &Check7, &Check9, &Check10, &Check5}) {
     tick->onClick = [this](const Click&) { AutoRevolve(); };
@@ -83,14 +54,11 @@ void RevolveProf::BindParameters() {
 void RevolveProf::BindGeneralFields() {
   using P = ProfileHeader;
   generalFields_ = {
-      {&HScroll31, &Text21, &P::genMoveX, 1},           {&HScroll32, &Text22, &P::genMoveY, 1},
-      {&HScroll33, &Text23, &P::genMoveZ, 1},           {&HScroll34, &Text24, &P::genRotateX, 1},
-      {&HScroll35, &Text25, &P::genTurnY, 1},           {&HScroll36, &Text26, &P::genSpinZ, 1},
-      {&HScroll37, &Text27, &P::genMultX, kHundredths}, {&HScroll38, &Text28, &P::genMultY, kHundredths},
-      {&HScroll39, &Text29, &P::genMultZ, kHundredths},
+      {&HScroll31, &P::genMoveX},   {&HScroll32, &P::genMoveY}, {&HScroll33, &P::genMoveZ},
+      {&HScroll34, &P::genRotateX}, {&HScroll35, &P::genTurnY}, {&HScroll36, &P::genSpinZ},
+      {&HScroll37, &P::genMultX},   {&HScroll38, &P::genMultY}, {&HScroll39, &P::genMultZ},
   };
   for (const GeneralField& f : generalFields_) {
-    Pair(*f.bar, *f.box, f.divisor);
     f.bar->onChange = [this, f] {
       app_.model.Profile(CurrentProfile(app_)).*f.field = f.bar->Shown();
       app_.geometry->form55.ShowGeneralFields();
@@ -111,10 +79,7 @@ void RevolveProf::ShowGeneralFields() {
 
 void RevolveProf::ResetEffects() {
   const HoldAutomaticActions hold(app_);
-  for (auto [bar, box] : {std::pair{&HScroll8, &Text5}, {&HScroll5, &Text3}, {&HScroll1, &Text1}}) {
-    bar->SetValue(0);
-    box->SetText("0");  // a typed amount may differ from its bar
-  }
+  for (BoxedBar* amount : {&HScroll8, &HScroll5, &HScroll1}) amount->Reset();
 }
 
 void RevolveProf::AutoRevolve() {
@@ -125,7 +90,7 @@ void RevolveProf::HScroll10_Change() {
   {
     const HoldAutomaticActions hold(app_);
     const auto sections = Narrow<std::int16_t>(HScroll10.value());
-    Text9.SetText(GeneralForm(360.0 / sections));
+    HScroll4.box.SetText(GeneralForm(360.0 / sections));
     app_.model.Profile(CurrentProfile(app_)).sectionCount = sections;
     app_.model.Part(CurrentPart(app_)).Sections = sections;
     app_.links.freeFaceRange(sections - 1, sections + 1);
@@ -136,28 +101,28 @@ void RevolveProf::HScroll10_Change() {
   AutoRevolve();
 }
 
-int RevolveProf::FirstSection() const { return HeldIn(HScroll9, Text7); }
+int RevolveProf::FirstSection() const { return HeldIn(HScroll9); }
 
 RevolveSettings RevolveProf::ReadSettings() const {
   RevolveSettings s;
   s.profile = CurrentProfile(app_);
   s.part = CurrentPart(app_);
-  s.firstLayer = HeldIn(HScroll3, Text33);
-  s.lastLayer = HeldIn(HScroll6, Text34);
+  s.firstLayer = HeldIn(HScroll3);
+  s.lastLayer = HeldIn(HScroll6);
   s.firstSection = FirstSection();
-  s.lastSection = HeldIn(HScroll11, Text6);
+  s.lastSection = HeldIn(HScroll11);
   s.firstPlaced = HScroll48.value();
   s.lastPlaced = HScroll47.value();
   s.layersLimit = HScroll22.value();
-  s.degreesPerSection = Text9.Number();
-  s.increment = Text43.Number();
-  s.corkscrew = Text1.Number();
-  s.spiral = Text3.Number();
+  s.degreesPerSection = HScroll4.Number();
+  s.increment = HScroll46.Number();
+  s.corkscrew = HScroll1.Number();
+  s.spiral = HScroll5.Number();
   s.petalsX = HScroll15.value();
   s.petalsY = HScroll13.value();
-  s.petalAmp = Text5.Number();
-  s.multiplyX = Text45.Number();
-  s.multiplyY = Text12.Number();
+  s.petalAmp = HScroll8.Number();
+  s.multiplyX = HScroll2.Number();
+  s.multiplyY = HScroll16.Number();
   s.regularSpacing = Check14.value();
   s.spacing = HScroll42.Shown();
   s.origin = Origin(app_);
@@ -225,25 +190,21 @@ void RevolveProf::FinishEnds(const RevolveSettings& settings) {
 // One narrow column: the picture stays in sight while the bars are moved.
 LayoutItem RevolveProf::DeclareLayout() {
   std::vector<LayoutItem> general;
-  for (const GeneralField& f : generalFields_) general.push_back(BarRow(*f.bar, {f.box}));
+  for (const GeneralField& f : generalFields_) general.push_back(BarRow(*f.bar));
   return Column({
       Flow({&Command15, &Command18}),
       Flow({&Option4, &Option2}),
       Frame("Sections and layers",
-            {BarRow(HScroll10, {&Text8}), BarRow(HScroll4, {&Text9}), BarRow(HScroll9, {&Text7}),
-             BarRow(HScroll11, {&Text6}), BarRow(HScroll3, {&Text33}), BarRow(HScroll6, {&Text34}),
-             BarRow(HScroll22, {}), BarRow(HScroll7, {}), BarRow(HScroll27, {})}),
+            {BarRow(HScroll10), BarRow(HScroll4), BarRow(HScroll9), BarRow(HScroll11), BarRow(HScroll3),
+             BarRow(HScroll6), BarRow(HScroll22), BarRow(HScroll7), BarRow(HScroll27)}),
       Frame("Petals, spiral, corkscrew",
-            {BarRow(HScroll15, {&Text46}), BarRow(HScroll13, {&Text11}), BarRow(HScroll8, {&Text5}),
-             BarRow(HScroll2, {&Text45}), BarRow(HScroll16, {&Text12}), BarRow(HScroll17, {&Text13}),
-             BarRow(HScroll5, {&Text3}), BarRow(HScroll1, {&Text1}), Single(Check14),
-             BarRow(HScroll42, {&Text39})}),
+            {BarRow(HScroll15), BarRow(HScroll13), BarRow(HScroll8), BarRow(HScroll2), BarRow(HScroll16),
+             BarRow(HScroll17), BarRow(HScroll5), BarRow(HScroll1), Single(Check14), BarRow(HScroll42)}),
       Frame("Ends",
             {Flow({&Check4, &Check2, &Check1, &Check8, &Check6, &Check7, &Check9, &Check10, &Check5})}),
       Frame("General Positioning", std::move(general)),
-      Frame("Simple Revolve Settings",
-            {BarRow(HScroll48, {&Text40}), BarRow(HScroll47, {&Text41}), BarRow(HScroll49, {&Text44}),
-             BarRow(HScroll50, {&Text47, &closing}), BarRow(HScroll46, {&Text43})}),
+      Frame("Simple Revolve Settings", {BarRow(HScroll48), BarRow(HScroll47), BarRow(HScroll49),
+                                        BarRow(HScroll50, {&closing}), BarRow(HScroll46)}),
   });
 }
 

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
@@ -32,30 +33,36 @@ class RevolveProf : public ToolWindow {
   // lets the ranges follow.
   void BuildGridFaces(int width, int rows);
 
-  ScrollBar HScroll10{*this,
-                      "HScroll10",
+  BoxedBar HScroll10{*this,
+                     {"HScroll10",
+                      "Text8",
                       {3, 61, 36},
                       "Sections",
-                      "total number of points to revolve (total sides of final obj= points-1)"};
-  TextBox Text8{*this, "Text8", "36"};
-  ScrollBar HScroll4{*this,
-                     "HScroll4",
+                      "total number of points to revolve (total sides of final obj= points-1)"}};
+  BoxedBar HScroll4{*this,
+                    {"HScroll4",
+                     "Text9",
                      {-12000, 12000, 1000, 10, 100},
                      "Degrees Per Section",
-                     "number of degrees between each successive point in obj"};
-  TextBox Text9{*this, "Text9", "10"};
-  ScrollBar HScroll9{
-      *this, "HScroll9", {0, 61, 0}, "Points Start", "point number of obj to start at for revolve"};
-  TextBox Text7{*this, "Text7", "0"};
-  ScrollBar HScroll11{
-      *this, "HScroll11", {0, 36, 36}, "Points End", "point number of obj to end at for revolve"};
-  TextBox Text6{*this, "Text6", "36"};
-  ScrollBar HScroll3{
-      *this, "HScroll3", {0, 62, 0}, "Layers Start", "bottom cutoff (layer) of obj to be revolved"};
-  TextBox Text33{*this, "Text33", "0"};
-  ScrollBar HScroll6{
-      *this, "HScroll6", {0, 62, 62}, "Layers End", "top cutoff (layer) of obj to be revolved"};
-  TextBox Text34{*this, "Text34", "62"};
+                     "number of degrees between each successive point in obj",
+                     kHundredths},
+                    Typing::IsTheValue};
+  BoxedBar HScroll9{
+      *this,
+      {"HScroll9", "Text7", {0, 61, 0}, "Points Start", "point number of obj to start at for revolve"},
+      Typing::IsTheValue};
+  BoxedBar HScroll11{
+      *this,
+      {"HScroll11", "Text6", {0, 36, 36}, "Points End", "point number of obj to end at for revolve"},
+      Typing::IsTheValue};
+  BoxedBar HScroll3{
+      *this,
+      {"HScroll3", "Text33", {0, 62, 0}, "Layers Start", "bottom cutoff (layer) of obj to be revolved"},
+      Typing::IsTheValue};
+  BoxedBar HScroll6{
+      *this,
+      {"HScroll6", "Text34", {0, 62, 62}, "Layers End", "top cutoff (layer) of obj to be revolved"},
+      Typing::IsTheValue};
   ScrollBar HScroll22{*this,
                       "HScroll22",
                       {0, 62, 62},
@@ -65,59 +72,60 @@ class RevolveProf : public ToolWindow {
       *this, "HScroll7", {0, 61, 31}, "Profile's sections", "sections that the profile was last given"};
   ScrollBar HScroll27{*this, "HScroll27", {0, 62, 0}, "Layer"};
 
-  ScrollBar HScroll48{*this, "HScroll48", {0, 119, 0}, "Layers Start", "first layer that gets a position"};
-  TextBox Text40{*this, "Text40", "0"};
-  ScrollBar HScroll47{*this, "HScroll47", {0, 119, 119}, "Layers End", "last layer that gets a position"};
-  TextBox Text41{*this, "Text41", "119"};
-  ScrollBar HScroll49{*this, "HScroll49", {0, 61, 31}, "Sections out of ("};
-  TextBox Text44{*this, "Text44", "31"};
-  ScrollBar HScroll50{*this, "HScroll50", {0, 60, 31}, "Sections total"};
-  TextBox Text47{*this, "Text47", "31"};
+  BoxedBar HScroll48{
+      *this, {"HScroll48", "Text40", {0, 119, 0}, "Layers Start", "first layer that gets a position"}};
+  BoxedBar HScroll47{*this,
+                     {"HScroll47", "Text41", {0, 119, 119}, "Layers End", "last layer that gets a position"}};
+  BoxedBar HScroll49{*this, {"HScroll49", "Text44", {0, 61, 31}, "Sections out of ("}};
+  BoxedBar HScroll50{*this, {"HScroll50", "Text47", {0, 60, 31}, "Sections total"}};
   Label closing{*this, "closing", ")"};  // of "Sections out of ("
-  ScrollBar HScroll46{*this, "HScroll46", {-100, 100, 1}, "Incr Amount (reciprical of 60)"};
-  TextBox Text43{*this, "Text43", "1"};
+  BoxedBar HScroll46{
+      *this, {"HScroll46", "Text43", {-100, 100, 1}, "Incr Amount (reciprical of 60)"}, Typing::IsTheValue};
 
-  ScrollBar HScroll1{
-      *this, "HScroll1", {-100, 100, 0}, "Corkscrew Scale", "Amount of corkscrew effect per revolution"};
-  TextBox Text1{*this, "Text1", "0"};
-  ScrollBar HScroll5{
-      *this, "HScroll5", {-1000, 1000, 0}, "Spiral Scale", "amount of spiral spacing in spiral revolve"};
-  TextBox Text3{*this, "Text3", "0"};
-  ScrollBar HScroll15{*this, "HScroll15", {-32, 32, 3}, "Petals X Dir", "number of petals in x dir"};
-  TextBox Text46{*this, "Text46", "3"};
-  ScrollBar HScroll13{*this, "HScroll13", {-32, 32, 3}, "Petals Y Dir", "number of petals in y dir"};
-  TextBox Text11{*this, "Text11", "3"};
-  ScrollBar HScroll8{*this, "HScroll8", {-2000, 2000, 0}, "Petal Amp", "amount of to petal size scale "};
-  TextBox Text5{*this, "Text5", "0"};
-  ScrollBar HScroll2{*this, "HScroll2", {-1000, 1000, 100}, "Multiply X", "affects in x dir (squash)"};
-  TextBox Text45{*this, "Text45", "1"};
-  ScrollBar HScroll16{*this, "HScroll16", {-1000, 1000, 100}, "Multiply Y", "affects in y dir (squash)"};
-  TextBox Text12{*this, "Text12", "1"};
-  ScrollBar HScroll17{
-      *this, "HScroll17", {-1000, 1000, 100}, "Multiply Z", "affects size of  obj when revolved in z dir"};
-  TextBox Text13{*this, "Text13", "1"};
+  BoxedBar HScroll1{
+      *this,
+      {"HScroll1", "Text1", {-100, 100, 0}, "Corkscrew Scale", "Amount of corkscrew effect per revolution"},
+      Typing::IsTheValue};
+  BoxedBar HScroll5{
+      *this,
+      {"HScroll5", "Text3", {-1000, 1000, 0}, "Spiral Scale", "amount of spiral spacing in spiral revolve"},
+      Typing::IsTheValue};
+  BoxedBar HScroll15{*this,
+                     {"HScroll15", "Text46", {-32, 32, 3}, "Petals X Dir", "number of petals in x dir"}};
+  BoxedBar HScroll13{*this,
+                     {"HScroll13", "Text11", {-32, 32, 3}, "Petals Y Dir", "number of petals in y dir"}};
+  BoxedBar HScroll8{*this,
+                    {"HScroll8", "Text5", {-2000, 2000, 0}, "Petal Amp", "amount of to petal size scale "},
+                    Typing::IsTheValue};
+  BoxedBar HScroll2{
+      *this,
+      {"HScroll2", "Text45", {-1000, 1000, 100}, "Multiply X", "affects in x dir (squash)", kHundredths},
+      Typing::IsTheValue};
+  BoxedBar HScroll16{
+      *this,
+      {"HScroll16", "Text12", {-1000, 1000, 100}, "Multiply Y", "affects in y dir (squash)", kHundredths},
+      Typing::IsTheValue};
+  BoxedBar HScroll17{*this,
+                     {"HScroll17",
+                      "Text13",
+                      {-1000, 1000, 100},
+                      "Multiply Z",
+                      "affects size of  obj when revolved in z dir",
+                      kHundredths},
+                     Typing::IsTheValue};
   CheckBox Check14{*this, "Check14", "Reg Spa Z", false, "regular spacing of the profile's points in Z"};
-  ScrollBar HScroll42{*this, "HScroll42", {-100, 100, 10}, "Spacing", "units between layers with Reg Spa Z"};
-  TextBox Text39{*this, "Text39", "10"};
+  BoxedBar HScroll42{
+      *this, {"HScroll42", "Text39", {-100, 100, 10}, "Spacing", "units between layers with Reg Spa Z"}};
 
-  ScrollBar HScroll31{*this, "HScroll31", {-1200, 1200, 0}, "Gen Move X"};
-  TextBox Text21{*this, "Text21", "0"};
-  ScrollBar HScroll32{*this, "HScroll32", {-1200, 1200, 0}, "Gen Move Y"};
-  TextBox Text22{*this, "Text22", "0"};
-  ScrollBar HScroll33{*this, "HScroll33", {-1200, 1200, 0}, "Gen Move Z"};
-  TextBox Text23{*this, "Text23", "0"};
-  ScrollBar HScroll34{*this, "HScroll34", {-360, 360, 0}, "Gen Angle X", "degrees"};
-  TextBox Text24{*this, "Text24", "0"};
-  ScrollBar HScroll35{*this, "HScroll35", {-360, 360, 0}, "Gen Angle Y", "degrees"};
-  TextBox Text25{*this, "Text25", "0"};
-  ScrollBar HScroll36{*this, "HScroll36", {-360, 360, 0}, "Gen Angle Z", "degrees"};
-  TextBox Text26{*this, "Text26", "0"};
-  ScrollBar HScroll37{*this, "HScroll37", {-600, 600, 100}, "Gen Mult X"};
-  TextBox Text27{*this, "Text27", "1"};
-  ScrollBar HScroll38{*this, "HScroll38", {-600, 600, 100}, "Gen Mult Y"};
-  TextBox Text28{*this, "Text28", "1"};
-  ScrollBar HScroll39{*this, "HScroll39", {-600, 600, 100}, "Gen Mult Z"};
-  TextBox Text29{*this, "Text29", "1"};
+  BoxedBar HScroll31{*this, {"HScroll31", "Text21", {-1200, 1200, 0}, "Gen Move X"}};
+  BoxedBar HScroll32{*this, {"HScroll32", "Text22", {-1200, 1200, 0}, "Gen Move Y"}};
+  BoxedBar HScroll33{*this, {"HScroll33", "Text23", {-1200, 1200, 0}, "Gen Move Z"}};
+  BoxedBar HScroll34{*this, {"HScroll34", "Text24", {-360, 360, 0}, "Gen Angle X", "degrees"}};
+  BoxedBar HScroll35{*this, {"HScroll35", "Text25", {-360, 360, 0}, "Gen Angle Y", "degrees"}};
+  BoxedBar HScroll36{*this, {"HScroll36", "Text26", {-360, 360, 0}, "Gen Angle Z", "degrees"}};
+  BoxedBar HScroll37{*this, {"HScroll37", "Text27", {-600, 600, 100}, "Gen Mult X", "", kHundredths}};
+  BoxedBar HScroll38{*this, {"HScroll38", "Text28", {-600, 600, 100}, "Gen Mult Y", "", kHundredths}};
+  BoxedBar HScroll39{*this, {"HScroll39", "Text29", {-600, 600, 100}, "Gen Mult Z", "", kHundredths}};
 
   CheckBox Check4{*this, "Check4", "seemless", false, "closes the mesh over the open seam"};
   CheckBox Check2{*this, "Check2", "seemless", false, "joins ends togehter as a seemless obj "};
@@ -141,10 +149,8 @@ class RevolveProf : public ToolWindow {
  private:
   // A bar that sets a general field of the profile.
   struct GeneralField {
-    ScrollBar* bar;
-    TextBox* box;
+    BoxedBar* bar;
     double ProfileHeader::*field;
-    double divisor;
   };
 
   void BindParameters();

@@ -10,10 +10,9 @@
 namespace pelorium {
 
 SpecialEffects1::SpecialEffects1(App& app) : ToolWindow(app, "specialeffects1", "Special Effects") {
-  Pair(HScroll3, Text15);
   OnEdit(Command10, [this] { Command10_Click(); });
   SetLayout(Column({
-      Frame("Combine points", {BarRow(HScroll3, {&Text15}), Flow({&Command10}), Single(ProgressBar1)}),
+      Frame("Combine points", {BarRow(HScroll3), Flow({&Command10}), Single(ProgressBar1)}),
   }));
 }
 
@@ -24,7 +23,7 @@ void SpecialEffects1::Command10_Click() {
   settings.moveFaceCorners = !CornersFollow(app_);  // else the sync brings them along
   ProgressBar1.SetMax(app_.model.Part(settings.part).maxpoints);
   const int moved = JoinPoints(app_.model, settings, [this](int point) { ProgressBar1.SetValue(point); });
-  Text15.SetText(std::to_string(moved));
+  HScroll3.box.SetText(std::to_string(moved));
 }
 
 }  // namespace pelorium

@@ -1,9 +1,9 @@
 // "Special Effects": deforms the chosen points of the current Part.
 #pragma once
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/scroll_bar.h"
-#include "controls/text_box.h"
 #include "windows/shell/tool_window.h"
 
 namespace pelorium {
@@ -14,9 +14,13 @@ class SpecialEffects1 : public ToolWindow {
  public:
   explicit SpecialEffects1(App& app);
 
-  ScrollBar HScroll3{
-      *this, "HScroll3", {0, 1000, 0}, "dist +", "points that lie within this distance are moved together"};
-  TextBox Text15{*this, "Text15", "0", "the distance; after Combine the number of points that moved"};
+  BoxedBar HScroll3{*this,
+                    {.bar = "HScroll3",
+                     .box = "Text15",
+                     .range = {0, 1000, 0},
+                     .label = "dist +",
+                     .toolTip = "points that lie within this distance are moved together",
+                     .boxTip = "the distance; after Combine the number of points that moved"}};
   PushButton Command10{*this, "Command10", "Combine", "moves points that lie close together onto one place"};
   ProgressBar ProgressBar1{*this, "ProgressBar1", 100};
 

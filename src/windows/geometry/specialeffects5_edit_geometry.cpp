@@ -39,17 +39,6 @@ void SpecialEffects5::Bind(PushButton& button, std::function<void(bool isLeft)> 
 }
 
 void SpecialEffects5::BindParameters() {
-  for (auto [bar, box] : {std::pair{&HScroll1, &Text1},
-                          {&HScroll2, &Text2},
-                          {&HScroll6, &Text6},
-                          {&HScroll9, &Text10},
-                          {&HScroll3, &Text8},
-                          {&HScroll8, &Text9},
-                          {&HScroll4, &Text4},
-                          {&HScroll5, &Text5},
-                          {&HScroll7, &Text7}}) {
-    Pair(*bar, *box);
-  }
   HScroll1.onChange = [this] { app_.view->form51.HScroll4.SetValue(HScroll1.value()); };
   Check1.onClick = [this](const Click&) { app_.view->form51.Check7.SetValue(Check1.value()); };
   for (OptionButton* option : {&Option7, &Option8, &Option9, &Option10, &Option11}) {
@@ -214,8 +203,7 @@ LayoutItem SpecialEffects5::DeclareLayout() {
 
 std::vector<LayoutItem> SpecialEffects5::DragFrames() {
   return {
-      Frame("Part",
-            {BarRow(HScroll1, {&Text1}), Row({Flow({&Check3, &Check1, &Check4}), Labelled("Sub G", Text3)})}),
+      Frame("Part", {BarRow(HScroll1), Row({Flow({&Check3, &Check1, &Check4}), Labelled("Sub G", Text3)})}),
       Frame("Move and Edit effect window",
             {Flow({&Option7, &Option8, &Option9, &Option10, &Option11}),
              Row({Single(Picture1), Column({Frame("Mirror", {Flow({&Command12, &Command13, &Command14})}),
@@ -224,23 +212,21 @@ std::vector<LayoutItem> SpecialEffects5::DragFrames() {
            Frame("Move Origin", {Single(Picture4)})}),
       Row({Frame("Pick pts", {Single(Picture5)}),
            Column({Frame("Area Select Options", {Flow({&Option2, &Option3})}), Flow({&Command18})})}),
-      Frame("Pick Points Area Size", {BarRow(HScroll2, {&Text2}), BarRow(HScroll6, {&Text6})}),
+      Frame("Pick Points Area Size", {BarRow(HScroll2), BarRow(HScroll6)}),
   };
 }
 
 std::vector<LayoutItem> SpecialEffects5::ChoiceFrames() {
   return {
       Frame("Points", {Flow({&Command4, &Command9, &Command1})}),
-      Frame("Faces", {BarRow(HScroll4, {&Text4}), BarRow(HScroll5, {&Text5}),
-                      Flow({&Check2, &Command5, &Command7, &Command8})}),
-      Frame("Group", {BarRow(HScroll7, {&Text7}), Single(Check5),
-                      Flow({&Command6, &Command2, &Command10, &Command11})}),
+      Frame("Faces", {BarRow(HScroll4), BarRow(HScroll5), Flow({&Check2, &Command5, &Command7, &Command8})}),
+      Frame("Group",
+            {BarRow(HScroll7), Single(Check5), Flow({&Command6, &Command2, &Command10, &Command11})}),
       Frame("Pts by Layer        Start                                    End",
-            {BarRow(HScroll3, {&Text8}), BarRow(HScroll8, {&Text9}), Flow({&Command3})}),
-      Frame("Pick Points Based on 3d dist from Origin",
-            {Flow({&Option1, &Option12}), BarRow(HScroll9, {&Text10})}),
+            {BarRow(HScroll3), BarRow(HScroll8), Flow({&Command3})}),
+      Frame("Pick Points Based on 3d dist from Origin", {Flow({&Option1, &Option12}), BarRow(HScroll9)}),
       Frame("pick points to be on (selected based on x y or z aboslute location--low to high range",
-            {Flow({&Option4, &Option5, &Option6}), BarRow(VScroll1, {}), BarRow(VScroll2, {})}),
+            {Flow({&Option4, &Option5, &Option6}), BarRow(VScroll1), BarRow(VScroll2)}),
   };
 }
 

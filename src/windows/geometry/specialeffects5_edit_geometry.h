@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
@@ -34,8 +35,8 @@ class SpecialEffects5 : public ToolWindow {
   // "Show parts" is the tick of the View Options.
   void ViewOptionChosen() override;
 
-  ScrollBar HScroll1{*this, "HScroll1", {0, kUserParts - 1, 0, 1, 1}, "Part #", "chosen part number to edit"};
-  TextBox Text1{*this, "Text1", "0"};
+  BoxedBar HScroll1{
+      *this, {"HScroll1", "Text1", {0, kUserParts - 1, 0, 1, 1}, "Part #", "chosen part number to edit"}};
   TextBox Text3{*this, "Text3", "1", "speed of the drags: 1 is half a unit or half a degree for each unit"};
   CheckBox Check3{*this, "Check3", " Edit obj", true, "off: drags leave the points where they are"};
   CheckBox Check1{*this, "Check1", "Show parts", true, "shows the wire of all parts"};
@@ -64,11 +65,10 @@ class SpecialEffects5 : public ToolWindow {
   OptionButton Option2{*this, "Option2", "Circle", "shape", true, "picks the points within Y of the click"};
   OptionButton Option3{*this,   "Option3", "Rectang",
                        "shape", false,     "select xyz points based on 2d rectangle distance option"};
-  ScrollBar HScroll2{*this, "HScroll2", {1, 1000, 50}, "X", "half the width of the rectangle"};
-  TextBox Text2{*this, "Text2", "50"};
-  ScrollBar HScroll6{
-      *this, "HScroll6", {1, 1000, 50}, "Y", "half the height of the rectangle, radius of the circle"};
-  TextBox Text6{*this, "Text6", "50"};
+  BoxedBar HScroll2{*this, {"HScroll2", "Text2", {1, 1000, 50}, "X", "half the width of the rectangle"}};
+  BoxedBar HScroll6{
+      *this,
+      {"HScroll6", "Text6", {1, 1000, 50}, "Y", "half the height of the rectangle, radius of the circle"}};
 
   OptionButton Option4{*this, "Option4", "&X ", "axis", true, "X dir pick pts"};
   OptionButton Option5{*this, "Option5", "&Y ", "axis", false, "Y dir pick pts"};
@@ -88,22 +88,22 @@ class SpecialEffects5 : public ToolWindow {
                        "distance", true,      "points within the distance are switched on"};
   OptionButton Option12{*this,      "Option12", "Off",
                         "distance", false,      "points within the distance are switched off"};
-  ScrollBar HScroll9{
-      *this, "HScroll9", {0, 2 * kFarthest, 100}, "Dist", "moving it switches the points around the origin"};
-  TextBox Text10{*this, "Text10", "100"};
+  BoxedBar HScroll9{*this,
+                    {"HScroll9",
+                     "Text10",
+                     {0, 2 * kFarthest, 100},
+                     "Dist",
+                     "moving it switches the points around the origin"}};
 
-  ScrollBar HScroll3{*this, "HScroll3", {0, kMaxLayer, 0, 1, 5}, "Start", "first layer"};
-  TextBox Text8{*this, "Text8", "0"};
-  ScrollBar HScroll8{*this, "HScroll8", {0, kMaxLayer, 1, 1, 5}, "End", "last layer"};
-  TextBox Text9{*this, "Text9", "1"};
+  BoxedBar HScroll3{*this, {"HScroll3", "Text8", {0, kMaxLayer, 0, 1, 5}, "Start", "first layer"}};
+  BoxedBar HScroll8{*this, {"HScroll8", "Text9", {0, kMaxLayer, 1, 1, 5}, "End", "last layer"}};
   PushButton Command3{*this, "Command3", "Points",
                       "switches the points of these layers on, right button off"};
 
-  ScrollBar HScroll4{
-      *this, "HScroll4", {1, kMaxFaces, 1, 1, 50}, "Faces Start", "first face of the sub group"};
-  TextBox Text4{*this, "Text4", "1"};
-  ScrollBar HScroll5{*this, "HScroll5", {0, kMaxFaces, 1, 1, 50}, "Faces End", "last face of the sub group"};
-  TextBox Text5{*this, "Text5", "1"};
+  BoxedBar HScroll4{
+      *this, {"HScroll4", "Text4", {1, kMaxFaces, 1, 1, 50}, "Faces Start", "first face of the sub group"}};
+  BoxedBar HScroll5{
+      *this, {"HScroll5", "Text5", {0, kMaxFaces, 1, 1, 50}, "Faces End", "last face of the sub group"}};
   CheckBox Check2{*this, "Check2", "Autopick Pts", false,
                   "Set to autopick pts by selected faces when sliders are moved"};
   PushButton Command5{*this, "Command5", "By face", "chooses the points of these faces, and only those"};
@@ -112,8 +112,7 @@ class SpecialEffects5 : public ToolWindow {
   PushButton Command8{*this, "Command8", "Face on/off by Selected Subgroup",
                       "switches these faces on, right button off"};
 
-  ScrollBar HScroll7{*this, "HScroll7", {0, kMaxGroup, 1, 1, 5}, "Group", "material group"};
-  TextBox Text7{*this, "Text7", "1"};
+  BoxedBar HScroll7{*this, {"HScroll7", "Text7", {0, kMaxGroup, 1, 1, 5}, "Group", "material group"}};
   CheckBox Check5{*this, "Check5", "Auto Select Points by Group", false,
                   "moving the slider chooses the points of the group"};
   PushButton Command6{

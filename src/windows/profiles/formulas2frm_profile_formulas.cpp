@@ -20,8 +20,6 @@ constexpr std::string_view kSineFrame = "Sine";
 constexpr std::string_view kParabulaFrame = "Parabula";
 constexpr std::string_view kWaveFrame = "Simple waves";
 
-constexpr double kTenths = 10, kHundredths = 100, kThousandths = 1000;
-
 using S = FormulaSettings;
 
 struct Parameter {
@@ -188,10 +186,9 @@ Formulas2Frm::Formulas2Frm(App& app)
     : ToolWindow(app, "Formulas2frm", " Profile  Formulas"),
       view(*this, app),
       parameters_(MakeBars(*this, kParameters, Typing::IsTheValue)) {
-  Pair(HScroll25, Text30);
   // Runs no formula: browsing would write over one profile after the other.
   HScroll25.onChange = [this] { app_.view->form51.HScroll3.SetValue(HScroll25.value()); };
-  for (const auto& parameter : parameters_) parameter->bar.onChange = [this] { AutoFormula(); };
+  for (const auto& parameter : parameters_) parameter->onChange = [this] { AutoFormula(); };
   BindFormulas();
   Command9.onClick = [this](const Click&) { ResetFrame(kCircleFrame); };
   Command11.onClick = [this](const Click&) { ResetFrame(kSineFrame); };
@@ -235,7 +232,7 @@ FormulaSettings Formulas2Frm::ReadSettings() const {
   for (std::size_t row = 0; row < parameters_.size(); ++row) {
     const auto& [spec, frame, text, whole] = kParameters[row];
     if (text != nullptr) settings.*text = parameters_[row]->Number();
-    if (whole != nullptr) settings.*whole = parameters_[row]->bar.value();
+    if (whole != nullptr) settings.*whole = parameters_[row]->value();
   }
   return settings;
 }
@@ -270,7 +267,7 @@ void Formulas2Frm::ProfileChosen() { HScroll25.SetValue(CurrentProfile(app_)); }
 std::vector<LayoutItem> Formulas2Frm::FrameRows(std::string_view frame) {
   std::vector<LayoutItem> rows;
   for (std::size_t row = 0; row < parameters_.size(); ++row) {
-    if (kParameters[row].frame == frame) rows.push_back(parameters_[row]->Row());
+    if (kParameters[row].frame == frame) rows.push_back(BarRow(*parameters_[row]));
   }
   return rows;
 }
@@ -283,7 +280,7 @@ LayoutItem Formulas2Frm::DeclareLayout() {
     return Frame(std::string(title), std::move(rows));
   };
   LayoutItem global = frame(kGlobalFrame, Flow({&Check2, &Command15}));
-  global.items.insert(global.items.begin(), BarRow(HScroll25, {&Text30}));
+  global.items.insert(global.items.begin(), BarRow(HScroll25));
   return Column({
       Frame("View", {Flow(view.All())}),
       Flow({&Option9, &Option3, &Option1, &Option2}),

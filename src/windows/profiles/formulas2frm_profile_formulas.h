@@ -6,9 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "controls/bar_table.h"
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
-#include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "core/model_store.h"
 #include "profiles/profile_formulas.h"
@@ -27,9 +26,8 @@ class Formulas2Frm : public ToolWindow {
   void ProfileChosen() override;
 
   ProfileViewOptions view;
-  ScrollBar HScroll25{
-      *this, "HScroll25", {0, kMaxProfile, 0, 1, 5}, "Prof#", "Sets current profile# to create "};
-  TextBox Text30{*this, "Text30", "0"};
+  BoxedBar HScroll25{
+      *this, {"HScroll25", "Text30", {0, kMaxProfile, 0, 1, 5}, "Prof#", "Sets current profile# to create "}};
   CheckBox Check2{*this, "Check2", "Additive Effects", false,
                   "check to enable additive effect only on existing profile "};
 
@@ -66,7 +64,7 @@ class Formulas2Frm : public ToolWindow {
   std::vector<LayoutItem> FrameRows(std::string_view frame);
   LayoutItem DeclareLayout();
 
-  TableBars parameters_;
+  BoxedBars parameters_;
 };
 
 }  // namespace pelorium

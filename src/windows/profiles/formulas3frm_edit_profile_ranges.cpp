@@ -34,21 +34,6 @@ Formulas3Frm::Formulas3Frm(App& app)
 }
 
 void Formulas3Frm::BindParameters() {
-  for (auto [bar, box] : {std::pair{&HScroll3, &Text6},
-                          {&HScroll12, &Text17},
-                          {&HScroll13, &Text18},
-                          {&HScroll23, &Text28},
-                          {&HScroll24, &Text29},
-                          {&HScroll9, &Text5},
-                          {&HScroll22, &Text27},
-                          {&HScroll29, &Text34},
-                          {&HScroll25, &Text30},
-                          {&HScroll14, &Text19},
-                          {&HScroll1, &Text3},
-                          {&HScroll2, &Text4}}) {
-    Pair(*bar, *box);
-  }
-  Mirror(HScroll7, Text38);
   HScroll3.onChange = [this] { app_.view->form51.HScroll3.SetValue(HScroll3.value()); };
   HScroll14.onChange = [this] { app_.view->form51.HScroll4.SetValue(HScroll14.value()); };
 }
@@ -76,7 +61,7 @@ void Formulas3Frm::BindEdits() {
   }
   for (auto [button, axis] : {std::pair{&Command23, X}, {&Command24, Y}, {&Command25, Z}}) {
     BindEdit(*button, [this, &model, axis](const ProfileBlock& block, bool back) {
-      SpaceBlock(model, block, axis, back ? -Text38.Number() : Text38.Number());
+      SpaceBlock(model, block, axis, back ? -HScroll7.Number() : HScroll7.Number());
     });
   }
   struct Turning {
@@ -186,23 +171,21 @@ void Formulas3Frm::PressCaps(const ProfileStack& stack, int pointsBefore) {
 // One narrow column: the picture stays in sight while the range is edited.
 LayoutItem Formulas3Frm::DeclareLayout() {
   return Column({
-      Frame("Range",
-            {BarRow(HScroll3, {&Text6}), BarRow(HScroll12, {&Text17}), BarRow(HScroll13, {&Text18})}),
-      Frame("Pts Range Min/Max",
-            {BarRow(HScroll23, {&Text28}), BarRow(HScroll24, {&Text29}), BarRow(HScroll9, {&Text5})}),
+      Frame("Range", {BarRow(HScroll3), BarRow(HScroll12), BarRow(HScroll13)}),
+      Frame("Pts Range Min/Max", {BarRow(HScroll23), BarRow(HScroll24), BarRow(HScroll9)}),
       Frame("Move, turn, scale",
             {Labelled("Amount", Text1), Flow({&Command1, &Command2, &Command3}), Labelled("Deg", Text2),
              Flow({&Command4, &Command5, &Command6}), Row({Labelled("Scale amnt", Text10), Single(Text20)}),
              Flow({&Command35, &Command38, &Command41, &Command39, &Command9, &Command43})}),
-      Frame("Copy and space", {BarRow(HScroll25, {&Text30}), Flow({&Command10}), BarRow(HScroll7, {&Text38}),
+      Frame("Copy and space", {BarRow(HScroll25), Flow({&Command10}), BarRow(HScroll7),
                                Flow({&Command23, &Command24, &Command25})}),
       Frame("Edit Range of Profiles",
-            {Flow({&Option1, &Option2, &Option3}), BarRow(HScroll4, {}), Single(Picture1)}),
+            {Flow({&Option1, &Option2, &Option3}), BarRow(HScroll4), Single(Picture1)}),
       Frame("Part from profiles",
-            {BarRow(HScroll14, {&Text19}), BarRow(HScroll1, {&Text3}), BarRow(HScroll2, {&Text4}),
+            {BarRow(HScroll14), BarRow(HScroll1), BarRow(HScroll2),
              Flow({&Check1, &Check2, &Check3, &Check4, &Check5}), Flow({&Command7, &Command8})}),
       Frame("View", {Flow(view.All())}, "options for profile view/editing perspective"),
-      Frame("Profiles Min/Max", {BarRow(HScroll22, {&Text27}), BarRow(HScroll29, {&Text34})}),
+      Frame("Profiles Min/Max", {BarRow(HScroll22), BarRow(HScroll29)}),
   });
 }
 

@@ -1,6 +1,7 @@
 // "More Edit of Profile ": edits a range of profiles at once and makes a Part of them.
 #pragma once
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/picture_box.h"
 #include "controls/scroll_bar.h"
@@ -24,26 +25,25 @@ class Formulas3Frm : public ToolWindow {
   void ProfileChosen() override;
   void PartChosen() override;
 
-  ScrollBar HScroll3{*this, "HScroll3", kProfiles, "Profile #", "sets profile #"};
-  TextBox Text6{*this, "Text6", "0"};
-  ScrollBar HScroll12{*this, "HScroll12", kProfiles, "Start", "Profile Range For Effects"};
-  TextBox Text17{*this, "Text17", "0"};
-  ScrollBar HScroll13{*this, "HScroll13", {0, kMaxProfile, 12, 1, 5}, "End ", "Profile Range For Effects"};
-  TextBox Text18{*this, "Text18", "12"};
-  ScrollBar HScroll23{*this, "HScroll23", {0, kMaxLayer, 0, 1, 5}, "Min", "first point of each profile"};
-  TextBox Text28{*this, "Text28", "0"};
-  ScrollBar HScroll24{
-      *this, "HScroll24", {0, kMaxLayer, kMaxLayer, 1, 5}, "Max", "last point of each profile"};
-  TextBox Text29{*this, "Text29", "36"};
-  ScrollBar HScroll9{
-      *this, "HScroll9", {1, kMaxLayer, 1, 1, 5}, "Pts Step", "1 takes every point, 2 every other one"};
-  TextBox Text5{*this, "Text5", "1"};
+  BoxedBar HScroll3{*this, {"HScroll3", "Text6", kProfiles, "Profile #", "sets profile #"}};
+  BoxedBar HScroll12{*this, {"HScroll12", "Text17", kProfiles, "Start", "Profile Range For Effects"}};
+  BoxedBar HScroll13{
+      *this, {"HScroll13", "Text18", {0, kMaxProfile, 12, 1, 5}, "End ", "Profile Range For Effects"}};
+  BoxedBar HScroll23{*this,
+                     {"HScroll23", "Text28", {0, kMaxLayer, 0, 1, 5}, "Min", "first point of each profile"}};
+  BoxedBar HScroll24{
+      *this, {"HScroll24", "Text29", {0, kMaxLayer, kMaxLayer, 1, 5}, "Max", "last point of each profile"}};
+  BoxedBar HScroll9{
+      *this,
+      {"HScroll9", "Text5", {1, kMaxLayer, 1, 1, 5}, "Pts Step", "1 takes every point, 2 every other one"}};
   // A range of profiles to look at. The views show all profiles or one: nothing reads it.
-  ScrollBar HScroll22{*this, "HScroll22", kProfiles, "Min", "first profile of a range to look at"};
-  TextBox Text27{*this, "Text27", "0"};
-  ScrollBar HScroll29{
-      *this, "HScroll29", {0, kMaxProfile, kMaxProfile, 1, 5}, "Max", "last profile of a range to look at"};
-  TextBox Text34{*this, "Text34", "36"};
+  BoxedBar HScroll22{*this, {"HScroll22", "Text27", kProfiles, "Min", "first profile of a range to look at"}};
+  BoxedBar HScroll29{*this,
+                     {"HScroll29",
+                      "Text34",
+                      {0, kMaxProfile, kMaxProfile, 1, 5},
+                      "Max",
+                      "last profile of a range to look at"}};
 
   TextBox Text1{*this, "Text1", "10", "units that X, Y and Z move by"};
   PushButton Command1{*this, "Command1", "X", "left button moves up in X, right button down"};
@@ -62,12 +62,16 @@ class Formulas3Frm : public ToolWindow {
   PushButton Command9{*this, "Command9", "Scale XZ", "multiplies X and Z"};
   PushButton Command43{*this, "Command43", "Scale all", "multiplies X, Y and Z"};
 
-  ScrollBar HScroll25{*this, "HScroll25", kProfiles, "Profile # To Copy", "the profile that is copied"};
-  TextBox Text30{*this, "Text30", "0"};
+  BoxedBar HScroll25{*this,
+                     {"HScroll25", "Text30", kProfiles, "Profile # To Copy", "the profile that is copied"}};
   PushButton Command10{*this, "Command10", "Copy to Range", "copies its points to all profiles of the range"};
-  ScrollBar HScroll7{
-      *this, "HScroll7", {0, 36, 10, 1, 5}, "Spacing", "units from each profile of the range to the next"};
-  TextBox Text38{*this, "Text38", "10"};
+  BoxedBar HScroll7{*this,
+                    {"HScroll7",
+                     "Text38",
+                     {0, 36, 10, 1, 5},
+                     "Spacing",
+                     "units from each profile of the range to the next"},
+                    Typing::IsTheValue};
   PushButton Command23{*this, "Command23", "Reg X", "spaces the profiles of the range along X"};
   PushButton Command24{*this, "Command24", "Reg Y", "spaces the profiles of the range along Y"};
   PushButton Command25{*this, "Command25", "Reg Z", "spaces the profiles of the range along Z"};
@@ -80,14 +84,13 @@ class Formulas3Frm : public ToolWindow {
       *this, "HScroll4", {1, 36, 1, 1, 5}, "Speed", "units that the range moves for each unit dragged"};
   PictureBox Picture1{*this, "Picture1", kDragWidth, kDragHeight, "drag here to edit the range of profiles"};
 
-  ScrollBar HScroll14{
-      *this, "HScroll14", {0, kUserParts - 1, 0, 1, 1}, "Part#", "the Part that the profiles make"};
-  TextBox Text19{*this, "Text19", "0"};
-  ScrollBar HScroll1{*this, "HScroll1", kProfiles, "Profiles min", "the profile of the first row"};
-  TextBox Text3{*this, "Text3", "0"};
-  ScrollBar HScroll2{
-      *this, "HScroll2", {0, kMaxProfile, 12, 1, 5}, "Profiles max", "the profile of the last row"};
-  TextBox Text4{*this, "Text4", "12"};
+  BoxedBar HScroll14{
+      *this,
+      {"HScroll14", "Text19", {0, kUserParts - 1, 0, 1, 1}, "Part#", "the Part that the profiles make"}};
+  BoxedBar HScroll1{*this, {"HScroll1", "Text3", kProfiles, "Profiles min", "the profile of the first row"}};
+  BoxedBar HScroll2{
+      *this,
+      {"HScroll2", "Text4", {0, kMaxProfile, 12, 1, 5}, "Profiles max", "the profile of the last row"}};
   PushButton Command7{*this, "Command7", "Create obj pts", "each profile becomes a row of the Part's points"};
   PushButton Command8{*this, "Command8", "Gen Faces", "makes the faces between the rows"};
   CheckBox Check1{*this, "Check1", "Additive Faces", false, "adds to what the Part holds"};

@@ -24,7 +24,6 @@ namespace pelorium {
 
 namespace {
 
-constexpr double kTenths = 10, kHundredths = 100;
 constexpr double kRandomRange = 100;  // units
 
 using P = ProfilePointRec;
@@ -58,28 +57,6 @@ Formulas::Formulas(App& app)
 }
 
 void Formulas::BindParameters() {
-  for (auto [bar, box] : {std::pair{&HScroll25, &Text30},
-                          {&HScroll22, &Text27},
-                          {&HScroll29, &Text34},
-                          {&HScroll23, &Text28},
-                          {&HScroll24, &Text29},
-                          {&HScroll3, &Text2},
-                          {&HScroll27, &Text32},
-                          {&HScroll28, &Text33},
-                          {&HScroll13, &Text15},
-                          {&HScroll14, &Text16},
-                          {&HScroll18, &Text25},
-                          {&HScroll9, &Text11},
-                          {&HScroll10, &Text12},
-                          {&HScroll11, &Text13},
-                          {&HScroll7, &Text9},
-                          {&HScroll8, &Text10},
-                          {&HScroll12, &Text14}}) {
-    Pair(*bar, *box);
-  }
-  Mirror(HScroll1, Text38, kTenths);
-  Mirror(HScroll2, Text1);
-  Mirror(HScroll4, Text4, kHundredths);
   for (ScrollBar* selector : {&HScroll25, &HScroll3}) {
     selector->onChange = [this, selector] { app_.view->form51.HScroll3.SetValue(selector->value()); };
   }
@@ -106,8 +83,9 @@ void Formulas::BindPointEdits() {
   Bind(Command17, [this, &model] { model.Profile(CurrentProfile(app_)).count = 0; });
   Bind(Command19, [this, &model] { ErasePoints(model, CurrentProfile(app_), Points()); });
   Bind(Command18, [this, &model] { CopyProfile(model, CurrentProfile(app_), Profiles(), Points()); });
-  Bind(Command8, [this, &model] { SpaceProfiles(model, Profiles(), Points(), &P::Z, Text1.Number()); });
-  Bind(Command16, [this, &model] { SetAxis(model, CurrentProfile(app_), Points(), &P::Z, Text33.Number()); });
+  Bind(Command8, [this, &model] { SpaceProfiles(model, Profiles(), Points(), &P::Z, HScroll2.Number()); });
+  Bind(Command16,
+       [this, &model] { SetAxis(model, CurrentProfile(app_), Points(), &P::Z, HScroll28.Number()); });
   Bind(Command15, [this] { FetchGrays(); });
   Bind(method4, [this] { FetchRandom(); });
 }
@@ -127,7 +105,7 @@ void Formulas::BindAxes() {
   }
   for (auto [button, axis] : {std::pair{&Command23, &P::X}, {&Command24, &P::Y}, {&Command25, &P::Z}}) {
     Bind(*button,
-         [this, &model, axis] { SpaceProfiles(model, Profiles(), Points(), axis, Text38.Number()); });
+         [this, &model, axis] { SpaceProfiles(model, Profiles(), Points(), axis, HScroll1.Number()); });
   }
 }
 
@@ -175,7 +153,7 @@ void Formulas::FetchRandom() {
 void Formulas::FetchGrays() {
   const auto [panX, panY] = ViewPan(app_);
   GrayToZ(app_.model, CurrentProfile(app_), Points(),
-          {app_.view->form36.Picture2.picture(), panX, panY, Text4.Number()});
+          {app_.view->form36.Picture2.picture(), panX, panY, HScroll4.Number()});
 }
 
 void Formulas::ShowSubView() {
@@ -242,30 +220,26 @@ void Formulas::StoreCoordinates() {
 LayoutItem Formulas::DeclareLayout() {
   return Column({
       Frame("View", {Flow(view.All())}),
-      Frame("Single Profile", {BarRow(HScroll25, {&Text30})}),
+      Frame("Single Profile", {BarRow(HScroll25)}),
       Frame("Point",
-            {BarRow(HScroll27, {&Text32}),
-             Row({Labelled("X", Text35), Labelled("Y", Text36), Labelled("Z", Text37)}),
-             BarRow(HScroll13, {&Text15}), BarRow(HScroll14, {&Text16}), Flow({&Command12})},
+            {BarRow(HScroll27), Row({Labelled("X", Text35), Labelled("Y", Text36), Labelled("Z", Text37)}),
+             BarRow(HScroll13), BarRow(HScroll14), Flow({&Command12})},
             "change a slected point to a XYZ location "),
-      Frame("Pts Min/ Max", {BarRow(HScroll23, {&Text28}), BarRow(HScroll24, {&Text29})}),
-      Frame("Profiles  Min/ Max", {BarRow(HScroll22, {&Text27}), BarRow(HScroll29, {&Text34})}),
+      Frame("Pts Min/ Max", {BarRow(HScroll23), BarRow(HScroll24)}),
+      Frame("Profiles  Min/ Max", {BarRow(HScroll22), BarRow(HScroll29)}),
       Frame("Profile", {Flow({&Command17, &Command19, &Command7, &Command18, &method4}),
                         Flow({&Command1, &Command2, &Command3, &Command20, &Command21, &Command22}),
                         Flow({&Command10, &Command11, &Command4, &Command5})}),
       Frame("Drag", {Flow({&Option1, &Option2, &Option3}), Single(Picture1)}),
-      Frame("Regular spacing (range)",
-            {BarRow(HScroll1, {&Text38}), Flow({&Command23, &Command24, &Command25})}),
-      Frame("Set elev (Progressive Range)", {BarRow(HScroll2, {&Text1}), Flow({&Command8})}),
-      Frame("Set Elev", {BarRow(HScroll28, {&Text33}), Flow({&Command16})}),
-      Frame("Grey Levels For Z   (Current Profile)", {BarRow(HScroll4, {&Text4}), Flow({&Command15})},
+      Frame("Regular spacing (range)", {BarRow(HScroll1), Flow({&Command23, &Command24, &Command25})}),
+      Frame("Set elev (Progressive Range)", {BarRow(HScroll2), Flow({&Command8})}),
+      Frame("Set Elev", {BarRow(HScroll28), Flow({&Command16})}),
+      Frame("Grey Levels For Z   (Current Profile)", {BarRow(HScroll4), Flow({&Command15})},
             "Gray levels applied to Z (creates terrain modeling effec"),
-      Frame("Layers of the Part",
-            {BarRow(HScroll18, {&Text25}), Flow({&Command14}), BarRow(HScroll9, {&Text11}),
-             BarRow(HScroll10, {&Text12}), BarRow(HScroll11, {&Text13}), Flow({&Command6})}),
-      Frame("Sides of the Part", {BarRow(HScroll7, {&Text9}), BarRow(HScroll8, {&Text10}),
-                                  BarRow(HScroll12, {&Text14}), Flow({&Command9})}),
-      Frame("Global Settings", {BarRow(HScroll3, {&Text2})}),
+      Frame("Layers of the Part", {BarRow(HScroll18), Flow({&Command14}), BarRow(HScroll9), BarRow(HScroll10),
+                                   BarRow(HScroll11), Flow({&Command6})}),
+      Frame("Sides of the Part", {BarRow(HScroll7), BarRow(HScroll8), BarRow(HScroll12), Flow({&Command9})}),
+      Frame("Global Settings", {BarRow(HScroll3)}),
   });
 }
 

@@ -3,9 +3,9 @@
 
 #include <functional>
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/picture_box.h"
-#include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "core/model_store.h"
 #include "profiles/edit_points.h"
@@ -41,36 +41,33 @@ class Formulas : public ToolWindow {
 
   ProfileViewOptions view;
 
-  ScrollBar HScroll25{*this, "HScroll25", kProfiles, "Profile #",
-                      "Sets current profile to create out of 125 total possible"};
-  TextBox Text30{*this, "Text30", "0"};
-  ScrollBar HScroll22{*this, "HScroll22", kProfiles, "lowest", "first profile of a range"};
-  TextBox Text27{*this, "Text27", "0"};
-  ScrollBar HScroll29{
-      *this, "HScroll29", {0, kMaxProfile, kMaxProfile, 1, 5}, "highest", "last profile of a range"};
-  TextBox Text34{*this, "Text34", "36"};
-  ScrollBar HScroll23{*this, "HScroll23", kPoints, "lowest",
-                      "layers range (start) in profile for formulas effects"};
-  TextBox Text28{*this, "Text28", "0"};
-  ScrollBar HScroll24{*this,
-                      "HScroll24",
+  BoxedBar HScroll25{*this,
+                     {"HScroll25", "Text30", kProfiles, "Profile #",
+                      "Sets current profile to create out of 125 total possible"}};
+  BoxedBar HScroll22{*this, {"HScroll22", "Text27", kProfiles, "lowest", "first profile of a range"}};
+  BoxedBar HScroll29{
+      *this,
+      {"HScroll29", "Text34", {0, kMaxProfile, kMaxProfile, 1, 5}, "highest", "last profile of a range"}};
+  BoxedBar HScroll23{
+      *this,
+      {"HScroll23", "Text28", kPoints, "lowest", "layers range (start) in profile for formulas effects"}};
+  BoxedBar HScroll24{*this,
+                     {"HScroll24",
+                      "Text29",
                       {0, kMaxLayer, kMaxLayer, 1, 5},
                       "highest",
-                      "layers range (end) in profile for formulas effects"};
-  TextBox Text29{*this, "Text29", "36"};
-  ScrollBar HScroll3{*this, "HScroll3", kProfiles, "Profile #", "the current profile of all windows"};
-  TextBox Text2{*this, "Text2", "0"};
+                      "layers range (end) in profile for formulas effects"}};
+  BoxedBar HScroll3{*this,
+                    {"HScroll3", "Text2", kProfiles, "Profile #", "the current profile of all windows"}};
 
-  ScrollBar HScroll27{*this, "HScroll27", kPoints, "Point #  (of profile)",
-                      "Select 3d profile vertex location point"};
-  TextBox Text32{*this, "Text32", "0"};
+  BoxedBar HScroll27{
+      *this,
+      {"HScroll27", "Text32", kPoints, "Point #  (of profile)", "Select 3d profile vertex location point"}};
   TextBox Text35{*this, "Text35", "0", "X of the point"};
   TextBox Text36{*this, "Text36", "0", "Y of the point"};
   TextBox Text37{*this, "Text37", "0", "Z of the point"};
-  ScrollBar HScroll13{*this, "HScroll13", kPoints, "match point", "the point that is copied"};
-  TextBox Text15{*this, "Text15", "0"};
-  ScrollBar HScroll14{*this, "HScroll14", kPoints, "=", "the point that takes its place"};
-  TextBox Text16{*this, "Text16", "0"};
+  BoxedBar HScroll13{*this, {"HScroll13", "Text15", kPoints, "match point", "the point that is copied"}};
+  BoxedBar HScroll14{*this, {"HScroll14", "Text16", kPoints, "=", "the point that takes its place"}};
   PushButton Command12{*this, "Command12", "match points ", "puts the lower point where the upper one is"};
   PushButton Command7{*this, "Command7", "Join Ends",
                       "join ends--moves last point to first point in profile"};
@@ -89,46 +86,49 @@ class Formulas : public ToolWindow {
   PushButton Command4{*this, "Command4", "Mirror profiles (X)", "mirror the range of profiles in X dir"};
   PushButton Command5{*this, "Command5", "Mirror Profiles (Z)", "mirror the range of profiles in Z dir"};
 
-  ScrollBar HScroll1{*this, "HScroll1", {-500, 500, 100, 1, 10}, "Spacing", "units from profile to profile"};
-  TextBox Text38{*this, "Text38", "10"};
+  BoxedBar HScroll1{
+      *this,
+      {"HScroll1", "Text38", {-500, 500, 100, 1, 10}, "Spacing", "units from profile to profile", kTenths},
+      Typing::IsTheValue};
   PushButton Command23{*this, "Command23", "Reg X", "spaces the range of profiles along X"};
   PushButton Command24{*this, "Command24", "Reg Y", "spaces the range of profiles along Y"};
   PushButton Command25{*this, "Command25", "Reg Z", "spaces the range of profiles along Z"};
-  ScrollBar HScroll2{
-      *this, "HScroll2", {-100, 100, 10, 1, 10}, "Multiplyer", "units from profile to profile"};
-  TextBox Text1{*this, "Text1", "10"};
+  BoxedBar HScroll2{
+      *this,
+      {"HScroll2", "Text1", {-100, 100, 10, 1, 10}, "Multiplyer", "units from profile to profile"},
+      Typing::IsTheValue};
   PushButton Command8{*this, "Command8", "Set ", "Z of the range of profiles by their numbers"};
-  ScrollBar HScroll28{*this, "HScroll28", {-1500, 1500, 0, 1, 10}, "Set Elev", "Z location to use"};
-  TextBox Text33{*this, "Text33", "0"};
+  BoxedBar HScroll28{*this,
+                     {"HScroll28", "Text33", {-1500, 1500, 0, 1, 10}, "Set Elev", "Z location to use"}};
   PushButton Command16{*this, "Command16", "Set Elev", "Sets general location for profile in Z dir"};
 
-  ScrollBar HScroll18{*this, "HScroll18", kPoints, "Layer", "the layer of the Part to get"};
-  TextBox Text25{*this, "Text25", "0"};
+  BoxedBar HScroll18{*this, {"HScroll18", "Text25", kPoints, "Layer", "the layer of the Part to get"}};
   PushButton Command14{*this, "Command14", "Get Layer",
                        "Retrieve a chosen layer from obj model and turns it into a profile "};
-  ScrollBar HScroll9{*this, "HScroll9", kPoints, "Start Layer", "the first layer to get"};
-  TextBox Text11{*this, "Text11", "0"};
-  ScrollBar HScroll10{*this, "HScroll10", kPoints, "End Layer", "the last layer to get"};
-  TextBox Text12{*this, "Text12", "0"};
-  ScrollBar HScroll11{*this, "HScroll11", kProfiles, "Starting Profile#", "profile of the first layer"};
-  TextBox Text13{*this, "Text13", "0"};
+  BoxedBar HScroll9{*this, {"HScroll9", "Text11", kPoints, "Start Layer", "the first layer to get"}};
+  BoxedBar HScroll10{*this, {"HScroll10", "Text12", kPoints, "End Layer", "the last layer to get"}};
+  BoxedBar HScroll11{*this,
+                     {"HScroll11", "Text13", kProfiles, "Starting Profile#", "profile of the first layer"}};
   PushButton Command6{*this, "Command6", " Layers",
                       "Retrieve a chosen layer from obj model and turns it into a profile "};
-  ScrollBar HScroll7{*this, "HScroll7", {1, 119, 1, 1, 5}, "Start Side", "the first side (pt) to get"};
-  TextBox Text9{*this, "Text9", "1"};
-  ScrollBar HScroll8{*this, "HScroll8", {1, 119, 1, 1, 5}, "End Side", "the last side (pt) to get"};
-  TextBox Text10{*this, "Text10", "1"};
-  ScrollBar HScroll12{*this, "HScroll12", kProfiles, "Starting Profile#", "profile of the first side"};
-  TextBox Text14{*this, "Text14", "0"};
+  BoxedBar HScroll7{*this,
+                    {"HScroll7", "Text9", {1, 119, 1, 1, 5}, "Start Side", "the first side (pt) to get"}};
+  BoxedBar HScroll8{*this,
+                    {"HScroll8", "Text10", {1, 119, 1, 1, 5}, "End Side", "the last side (pt) to get"}};
+  BoxedBar HScroll12{*this,
+                     {"HScroll12", "Text14", kProfiles, "Starting Profile#", "profile of the first side"}};
   PushButton Command9{*this, "Command9", "Sides ",
                       "Retrieve a chosen side (pt)  from obj model and turns it into a profile "};
 
-  ScrollBar HScroll4{*this,
-                     "HScroll4",
-                     {0, 200, 25, 1, 10},
-                     "ht scale",
-                     "amount of z dir scaling 1=100 .25=25 percent... and so fourth"};
-  TextBox Text4{*this, "Text4", "0.25", "ht per click to use (scale amount) Z dir"};
+  BoxedBar HScroll4{*this,
+                    {.bar = "HScroll4",
+                     .box = "Text4",
+                     .range = {0, 200, 25, 1, 10},
+                     .label = "ht scale",
+                     .toolTip = "amount of z dir scaling 1=100 .25=25 percent... and so fourth",
+                     .divisor = kHundredths,
+                     .boxTip = "ht per click to use (scale amount) Z dir"},
+                    Typing::IsTheValue};
   PushButton Command15{*this, "Command15", "Z ",
                        "gray levels effect for Layer using gray scale levels in image window"};
   PushButton method4{*this, "method4", "Random", "random points for the profile as it is seen"};

@@ -62,10 +62,7 @@ Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mo
   Command16.onClick = [this](const Click&) { app_.view->shadedView->DrawShaded(); };
   for (Control* hidden : std::initializer_list<Control*>{&Command16, &HScroll3}) hidden->SetVisible(false);
   Home.onClick = [this](const Click&) { ResetView(); };
-  for (auto [pan, box] : {std::pair{&HScroll2, &Text1}, {&VScroll2, &Text2}}) {
-    Pair(*pan, *box);
-    pan->onChange = [this] { MoveBackground(); };
-  }
+  for (BoxedBar* pan : {&HScroll2, &VScroll2}) pan->onChange = [this] { MoveBackground(); };
   MakePoseButtons();
   commandRow = MakeCommandRow(*this);
   SetLayout(DeclareLayout());
@@ -99,7 +96,7 @@ LayoutItem Form36::DeclareLayout() {
       Row({Single(Label54), Labelled("Layer or Point:", Label16), Labelled("loc x", Label4),
            Labelled("loc y (or z)", Label5), Labelled("length", Label13)}),
       Row(std::move(totals)),
-      Row({BarRow(HScroll2, {&Text1}), BarRow(VScroll2, {&Text2}), Labelled("grey level", Label53)}),
+      Row({BarRow(HScroll2), BarRow(VScroll2), Labelled("grey level", Label53)}),
       Stretching(Row({Stretching(Single(Picture1)), Upright(VScroll1)})),
       Single(HScroll1),
   });

@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/picture_box.h"
 #include "controls/scroll_bar.h"
@@ -68,11 +69,11 @@ class Form36 : public ToolWindow {
                 "red, green, blue and grey level of the background under the last click"};
 
   // Where the background shows; what is read of it keeps its place.
-  ScrollBar HScroll2{
-      *this, "HScroll2", {-1000, 1000, 0, 1, 50}, "background X", "moves the background image across"};
-  TextBox Text1{*this, "Text1", "0"};
-  ScrollBar VScroll2{*this, "VScroll2", {-1000, 1000, 0, 1, 50}, "Y", "moves the background image down"};
-  TextBox Text2{*this, "Text2", "0"};
+  BoxedBar HScroll2{
+      *this,
+      {"HScroll2", "Text1", {-1000, 1000, 0, 1, 50}, "background X", "moves the background image across"}};
+  BoxedBar VScroll2{*this,
+                    {"VScroll2", "Text2", {-1000, 1000, 0, 1, 50}, "Y", "moves the background image down"}};
 
   // A second bar across; nothing moves with it.
   ScrollBar HScroll3{*this, "HScroll3", {-1000, 1000, 0, 1, 50}, "background X 2"};

@@ -27,10 +27,6 @@ std::string Calculated(const TextBox& a, const TextBox& b, const TextBox& c) {
 }  // namespace
 
 Form51::Form51(App& app) : ToolWindow(app, "Form51", "View Options") {
-  Pair(HScroll4, Text3);
-  Pair(HScroll3, Text2);
-  Pair(HScroll8, Text6);
-  Pair(HScroll2, Text1);
   HScroll4.onChange = [this] { HScroll4_Change(); };
   HScroll3.onChange = [this] { HScroll3_Change(); };
   HScroll6.onChange = [this] { HScroll6_Change(); };
@@ -59,7 +55,7 @@ Form51::Form51(App& app) : ToolWindow(app, "Form51", "View Options") {
 
 // Everything that only changes what the picture shows.
 void Form51::BindViews() {
-  for (ScrollBar* bar : {&HScroll8, &HScroll9}) bar->onChange = [this] { RefreshViews(app_); };
+  HScroll8.onChange = HScroll9.onChange = [this] { RefreshViews(app_); };
   for (Control* control : std::initializer_list<Control*>{
            &Option2, &Option3, &Option4, &Option5, &Option6, &Option16, &Option11, &Check1, &Check3, &Check9,
            &Check10, &Check12, &Check13, &Check14, &Check15, &Check16, &Check17, &Check21, &Check30}) {
@@ -83,9 +79,8 @@ void Form51::BindPreview() {
 
 LayoutItem Form51::DeclareLayout() {
   return Column({
-      Frame("Part and profile",
-            {BarRow(HScroll4, {&Text3}), BarRow(HScroll3, {&Text2}), BarRow(HScroll6, {&Label17}),
-             BarRow(HScroll2, {&Text1}), Flow({&Command17})}),
+      Frame("Part and profile", {BarRow(HScroll4), BarRow(HScroll3), BarRow(HScroll6, {&Label17}),
+                                 BarRow(HScroll2), Flow({&Command17})}),
       Frame("View", {Flow({&Option1, &Option4, &Option2, &Option5, &Option6, &Option16, &Option3, &Option11,
                            &Option7, &Command2})}),
       Frame("Shaded", {Row({Single(Picture3),
@@ -94,8 +89,8 @@ LayoutItem Form51::DeclareLayout() {
                            &Check12, &Check15, &Check17, &Check13, &Check21})}),
       Frame("Faces",
             {BarRow(HScroll7, {&Label12}), BarRow(HScroll5, {&Label10}), Single(Label3), Single(Label19)}),
-      Frame("Zoom and grid", {Flow({&Command26, &Command1}), BarRow(HScroll8, {&Text6}), BarRow(HScroll9, {}),
-                              BarRow(HScroll13, {&Label33}), BarRow(HScroll1, {})}),
+      Frame("Zoom and grid", {Flow({&Command26, &Command1}), BarRow(HScroll8), BarRow(HScroll9),
+                              BarRow(HScroll13, {&Label33}), BarRow(HScroll1)}),
       Frame("Mouse", {Flow({&Check8, &Check4, &Check5, &Check2, &Check6})}),
       Frame("Calc", {Row({Labelled("", Text10), Labelled("*", Text8), Labelled("/", Text9), Single(Command5),
                           Single(Label24)}),
@@ -105,7 +100,8 @@ LayoutItem Form51::DeclareLayout() {
 }
 
 void Form51::Load() {
-  for (ScrollBar* selector : {&HScroll3, &HScroll6}) selector->SetMax(kMaxLayer);
+  HScroll3.SetMax(kMaxLayer);
+  HScroll6.SetMax(kMaxLayer);
   for (ScrollBar* faces : {&HScroll5, &HScroll7}) faces->SetMax(kMaxFaces);
   HScroll4.SetMax(kUserParts - 1);
   CountsFollowed();
@@ -158,7 +154,7 @@ void Form51::HScroll3_Change() {
 
 void Form51::HScroll6_Change() {
   app_.model.Profile(CurrentProfile(app_)).count = Narrow<std::int16_t>(HScroll6.value());
-  Text1.SetText(std::to_string(HScroll6.value()));
+  HScroll2.box.SetText(std::to_string(HScroll6.value()));
   Label17.SetCaption(std::to_string(HScroll6.value()));
   RefreshViews(app_);
 }

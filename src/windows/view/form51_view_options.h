@@ -1,6 +1,7 @@
 // "View Options": the current Part and profile, the ranges, the view mode and what the views show.
 #pragma once
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/picture_box.h"
 #include "controls/scroll_bar.h"
@@ -30,15 +31,13 @@ class Form51 : public ToolWindow {
   // Everything that shows values of the current profile shows them anew, after a load.
   void ShowProfile();
 
-  ScrollBar HScroll4{*this, "HScroll4", {0, 1, 0, 1, 1}, "Part #", "the Part that is edited"};
-  TextBox Text3{*this, "Text3", "0"};
-  ScrollBar HScroll3{*this, "HScroll3", {0, kMaxProfile, 0, 1, 5}, "Profile #", "the profile that is edited"};
-  TextBox Text2{*this, "Text2", "0"};
+  BoxedBar HScroll4{*this, {"HScroll4", "Text3", {0, 1, 0, 1, 1}, "Part #", "the Part that is edited"}};
+  BoxedBar HScroll3{
+      *this, {"HScroll3", "Text2", {0, kMaxProfile, 0, 1, 5}, "Profile #", "the profile that is edited"}};
   ScrollBar HScroll6{
       *this, "HScroll6", {0, kMaxLayer, 0, 1, 5}, "At \"Layer\" :", "layers in use of the profile"};
   Label Label17{*this, "Label17", "0"};
-  ScrollBar HScroll2{*this, "HScroll2", {0, kMaxLayer, 0, 1, 5}, "Set current layer"};
-  TextBox Text1{*this, "Text1", "0"};
+  BoxedBar HScroll2{*this, {"HScroll2", "Text1", {0, kMaxLayer, 0, 1, 5}, "Set current layer"}};
   PushButton Command17{*this, "Command17", "set to 0", "starts the profile over at layer 0"};
 
   OptionButton Option1{*this, "Option1", "Draw/Edit  Profile", "view"};
@@ -84,8 +83,8 @@ class Form51 : public ToolWindow {
   Label Label3{*this, "Label3", ""};
   Label Label19{*this, "Label19", ""};
 
-  ScrollBar HScroll8{*this, "HScroll8", {1, 1000, 50, 1, 10}, "Grid Spacing", "units between grid lines"};
-  TextBox Text6{*this, "Text6", "50"};
+  BoxedBar HScroll8{*this,
+                    {"HScroll8", "Text6", {1, 1000, 50, 1, 10}, "Grid Spacing", "units between grid lines"}};
   ScrollBar HScroll9{
       *this, "HScroll9", {-2000, 2000, 200, 1, 50}, "tri view sep", "units between the three views"};
   ScrollBar HScroll13{*this, "HScroll13", {1, 1000, 7, 1, 10}, "Zoom", "scale of the shaded view"};

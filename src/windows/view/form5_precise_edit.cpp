@@ -157,18 +157,7 @@ Form5::Form5(App& app) : ToolWindow(app, "Form5", "Precise Edit") {
 }
 
 void Form5::BindRanges() {
-  for (auto [bar, box] : {std::pair{&HScroll20, &Text38}, {&HScroll25, &Text39}}) {
-    Pair(*bar, *box);
-    bar->onChange = [this] { RefreshViews(app_); };
-  }
-  for (auto [bar, box] : {std::pair{&HScroll1, &Text1},
-                          {&HScroll2, &Text2},
-                          {&HScroll5, &Text6},
-                          {&HScroll9, &Text4},
-                          {&HScroll10, &Text41},
-                          {&HScroll11, &Text8}}) {
-    Pair(*bar, *box);
-  }
+  for (BoxedBar* bar : {&HScroll20, &HScroll25}) bar->onChange = [this] { RefreshViews(app_); };
   struct Shift {
     PushButton& button;
     void (Form5::*shift)(int layers);
@@ -206,7 +195,7 @@ EditParams Form5::ReadEditParams(const Click& click) const {
   const double sense = click.IsRight() ? -1 : 1;
   EditParams p{app_.model, Chosen(app_), Origin(app_)};
   p.chosen.step = HScroll9.value();
-  p.move = sense * Text41.Number();
+  p.move = sense * HScroll10.Number();
   p.degrees = sense * Text19.Number();
   p.factor = click.IsRight() ? Text10.Number() : Text20.Number();
   p.flip = FlipAxis();
@@ -282,11 +271,11 @@ LayoutItem Form5::DeclareLayout() {
   return Column({
       Frame("Origin", {Labelled("Origin Loc X", Text5), Labelled("Origin Loc Y", Text9),
                        Labelled("Origin Loc Z", Text3)}),
-      Frame("Chosen points", {BarRow(HScroll20, {&Text38, &Command7}),
-                              BarRow(HScroll25, {&Text39, &Command8}), BarRow(HScroll9, {&Text4}),
-                              BarRow(HScroll1, {&Text1, &Command11}), BarRow(HScroll2, {&Text2, &Command13}),
-                              BarRow(HScroll5, {&Text6, &Command19}), BarRow(HScroll11, {&Text8})}),
-      frame(kMove, {BarRow(HScroll10, {&Text41})}),
+      Frame("Chosen points",
+            {BarRow(HScroll20, {&Command7}), BarRow(HScroll25, {&Command8}), BarRow(HScroll9),
+             BarRow(HScroll1, {&Command11}), BarRow(HScroll2, {&Command13}), BarRow(HScroll5, {&Command19}),
+             BarRow(HScroll11)}),
+      frame(kMove, {BarRow(HScroll10)}),
       frame(kTurn, {Labelled("Rotate amt", Text19)}),
       frame(kTurnInSteps, {}),
       frame(kScale, {Row({Labelled("Scale amnt", Text10), Single(Text20)})}),

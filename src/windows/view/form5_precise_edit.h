@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/boxed_bar.h"
 #include "controls/buttons.h"
-#include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "core/axes.h"
 #include "windows/shell/tool_window.h"
@@ -37,30 +37,26 @@ class Form5 : public ToolWindow {
   TextBox Text5{*this, "Text5", "0", "pivot of all turns and scales, X"};
   TextBox Text9{*this, "Text9", "0", "pivot of all turns and scales, Y"};
   TextBox Text3{*this, "Text3", "0", "pivot of all turns and scales, Z"};
-  ScrollBar HScroll20{*this, "HScroll20", {1, kStartPoints, 1, 1, 36}, "Points Start", "first chosen point"};
-  TextBox Text38{*this, "Text38", "1"};
-  ScrollBar HScroll25{*this, "HScroll25", {0, kStartPoints, 60, 1, 36}, "Points End", "last chosen point"};
-  TextBox Text39{*this, "Text39", "60"};
+  BoxedBar HScroll20{
+      *this, {"HScroll20", "Text38", {1, kStartPoints, 1, 1, 36}, "Points Start", "first chosen point"}};
+  BoxedBar HScroll25{
+      *this, {"HScroll25", "Text39", {0, kStartPoints, 60, 1, 36}, "Points End", "last chosen point"}};
   PushButton Command7{*this, "Command7", "<<", kPointsDownTip};
   PushButton Command8{*this, "Command8", ">>", kPointsUpTip};
-  ScrollBar HScroll1{*this, "HScroll1", {0, 62, 0}, "Layers Start", "first layer"};
-  TextBox Text1{*this, "Text1", "0"};
-  ScrollBar HScroll2{*this, "HScroll2", {0, 62, 62}, "Layers End", "last layer"};
-  TextBox Text2{*this, "Text2", "62"};
+  BoxedBar HScroll1{*this, {"HScroll1", "Text1", {0, 62, 0}, "Layers Start", "first layer"}};
+  BoxedBar HScroll2{*this, {"HScroll2", "Text2", {0, 62, 62}, "Layers End", "last layer"}};
   PushButton Command11{*this, "Command11", "<<", kLayersDownTip};
   PushButton Command13{*this, "Command13", ">>", kLayersUpTip};
-  ScrollBar HScroll5{*this, "HScroll5", {0, 62, 32}, "Pts/ layer", "points of one ring of the Part"};
-  TextBox Text6{*this, "Text6", "32"};
+  BoxedBar HScroll5{*this,
+                    {"HScroll5", "Text6", {0, 62, 32}, "Pts/ layer", "points of one ring of the Part"}};
   PushButton Command19{*this, "Command19", "Set", kSetTip};
-  ScrollBar HScroll10{*this, "HScroll10", {1, 500, 1}, "Move amnt", "units of one move"};
-  TextBox Text41{*this, "Text41", "1"};
+  BoxedBar HScroll10{*this, {"HScroll10", "Text41", {1, 500, 1}, "Move amnt", "units of one move"}};
   TextBox Text19{*this, "Text19", "1", "degrees of one turn"};
   TextBox Text10{*this, "Text10", ".99", "factor of the right button"};
   TextBox Text20{*this, "Text20", "1.01", "factor of the left button"};
-  ScrollBar HScroll9{*this, "HScroll9", {1, 1000, 1}, "Step", "walk through the range by this step"};
-  TextBox Text4{*this, "Text4", "1"};
-  ScrollBar HScroll11{*this, "HScroll11", {0, 1, 0, 1, 1}, "part #", "Part of the edit"};
-  TextBox Text8{*this, "Text8", "0"};
+  BoxedBar HScroll9{*this,
+                    {"HScroll9", "Text4", {1, 1000, 1}, "Step", "walk through the range by this step"}};
+  BoxedBar HScroll11{*this, {"HScroll11", "Text8", {0, 1, 0, 1, 1}, "part #", "Part of the edit"}};
   CheckBox Check2{*this, "Check2", "Enable Mirror Image Single Point when moved"};
   OptionButton Option1{*this, "Option1", "Z", "flip", false, "axis of Flip"};
   OptionButton Option2{*this, "Option2", "Y", "flip", false, "axis of Flip"};

@@ -35,7 +35,7 @@ void SetOrigin(App& app, const Vec3& origin) {
 
 ChosenPoints Chosen(const App& app) { return {CurrentPart(app), PointRangeStart(app), PointRangeEnd(app)}; }
 int PointsPerLayer(const App& app) { return app.view->form5.HScroll5.value(); }
-double MoveAmount(const App& app) { return app.view->form5.Text41.Number(); }
+double MoveAmount(const App& app) { return app.view->form5.HScroll10.Number(); }
 bool MirrorsMoves(const App& app) { return app.view->form5.Check2.value(); }
 Axis FlipAxis(const App& app) { return app.view->form5.FlipAxis(); }
 
