@@ -5,14 +5,17 @@
 
 namespace pelorium {
 
+// Layers can be named up to here, far beyond those that a profile lays.
+inline constexpr int kLastNamedLayer = 119;
+
 struct RevolveSettings {
   int profile = 0;
   int part = 0;
   int firstLayer = 0, lastLayer = 62;      // layers firstLayer .. min(lastLayer, 35) + 1 are laid
   int firstSection = 0, lastSection = 36;  // points of each ring
   int firstPlaced = 0,
-      lastPlaced = 119;  // only these layers get positions; the others keep their points' numbers
-  int layersLimit = 62;  // rows of points that the mesh may take
+      lastPlaced = kLastNamedLayer;  // only these layers get positions; the others keep their points' numbers
+  int layersLimit = 62;              // rows of points that the mesh may take
   double degreesPerSection = 10;
   double increment = 1;          // of the point number and of the turn's counter, section by section
   double corkscrew = 0;          // units that each section rises above the one before

@@ -17,6 +17,10 @@ namespace pelorium {
 
 class App;
 
+// One press makes at most so many faces, and the far edge lies at most so many points away: two turns of the
+// widest ring.
+inline constexpr int kMostCapFaces = 120;
+
 class FreeFace : public ToolWindow {
  public:
   explicit FreeFace(App& app);
@@ -38,7 +42,7 @@ class FreeFace : public ToolWindow {
 
   BoxedBar HScroll1{
       *this, {"HScroll1", "Text1", {1, kMaxPoints, 1, 1, 32}, "Start pt", "Designate start pt for end cap"}};
-  BoxedBar HScroll2{*this, {"HScroll2", "Text2", {1, 120, 34}, "Faces", "faces of the end cap"}};
+  BoxedBar HScroll2{*this, {"HScroll2", "Text2", {1, kMostCapFaces, 34}, "Faces", "faces of the end cap"}};
   BoxedBar HScroll3{*this,
                     {"HScroll3", "Text3", {0, 62, 0}, "Layer", "Designate model \"Layer\" for end cap"}};
   BoxedBar HScroll11{*this,
@@ -71,7 +75,8 @@ class FreeFace : public ToolWindow {
   BoxedBar HScroll9{*this,
                     {"HScroll9", "Text9", {0, 62, 0}, "Start Layer", "sets layer start pt for side piece"}};
   BoxedBar HScroll10{
-      *this, {"HScroll10", "Text10", {0, 120, 0}, "offset", "points from the near edge to the far edge"}};
+      *this,
+      {"HScroll10", "Text10", {0, kMostCapFaces, 0}, "offset", "points from the near edge to the far edge"}};
   PushButton Command9{*this, "Command9", "Create Side Piece", "two faces a layer between two sides"};
 
   BoxedBar HScroll13{
@@ -79,7 +84,8 @@ class FreeFace : public ToolWindow {
       {"HScroll13", "Text19", {1, 2880, 1, 1, 32}, "Start Point", "sets pt to use for side piece"},
       Typing::IsTheValue};
   BoxedBar HScroll14{
-      *this, {"HScroll14", "Text20", {1, 120, 34}, "# of Faces to Create", "faces of both buttons below"}};
+      *this,
+      {"HScroll14", "Text20", {1, kMostCapFaces, 34}, "# of Faces to Create", "faces of both buttons below"}};
   TextBox Text22{*this, "Text22", "32", "points of a row of the strip"};
   PushButton Command11{*this, "Command11", "Create Radiating", "a fan around the start point"};
   PushButton Command14{*this, "Command14", "Create Disjoined", "each face on three points of its own"};

@@ -73,9 +73,14 @@ class RevolveProf : public ToolWindow {
   ScrollBar HScroll27{*this, "HScroll27", {0, 62, 0}, "Layer"};
 
   BoxedBar HScroll48{
-      *this, {"HScroll48", "Text40", {0, 119, 0}, "Layers Start", "first layer that gets a position"}};
+      *this,
+      {"HScroll48", "Text40", {0, kLastNamedLayer, 0}, "Layers Start", "first layer that gets a position"}};
   BoxedBar HScroll47{*this,
-                     {"HScroll47", "Text41", {0, 119, 119}, "Layers End", "last layer that gets a position"}};
+                     {"HScroll47",
+                      "Text41",
+                      {0, kLastNamedLayer, kLastNamedLayer},
+                      "Layers End",
+                      "last layer that gets a position"}};
   BoxedBar HScroll49{*this, {"HScroll49", "Text44", {0, 61, 31}, "Sections out of ("}};
   BoxedBar HScroll50{*this, {"HScroll50", "Text47", {0, 60, 31}, "Sections total"}};
   Label closing{*this, "closing", ")"};  // of "Sections out of ("

@@ -18,6 +18,9 @@ namespace pelorium {
 
 class App;
 
+// Sides (points of a ring) can be asked for up to here.
+inline constexpr int kLastSide = 119;
+
 class Formulas : public ToolWindow {
  public:
   explicit Formulas(App& app);
@@ -111,10 +114,10 @@ class Formulas : public ToolWindow {
                      {"HScroll11", "Text13", kProfiles, "Starting Profile#", "profile of the first layer"}};
   PushButton Command6{*this, "Command6", " Layers",
                       "Retrieve a chosen layer from obj model and turns it into a profile "};
-  BoxedBar HScroll7{*this,
-                    {"HScroll7", "Text9", {1, 119, 1, 1, 5}, "Start Side", "the first side (pt) to get"}};
+  BoxedBar HScroll7{
+      *this, {"HScroll7", "Text9", {1, kLastSide, 1, 1, 5}, "Start Side", "the first side (pt) to get"}};
   BoxedBar HScroll8{*this,
-                    {"HScroll8", "Text10", {1, 119, 1, 1, 5}, "End Side", "the last side (pt) to get"}};
+                    {"HScroll8", "Text10", {1, kLastSide, 1, 1, 5}, "End Side", "the last side (pt) to get"}};
   BoxedBar HScroll12{*this,
                      {"HScroll12", "Text14", kProfiles, "Starting Profile#", "profile of the first side"}};
   PushButton Command9{*this, "Command9", "Sides ",
