@@ -34,12 +34,6 @@ class OpenFile : public ByteSink {
     if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size()) RaiseFileError(path_);
   }
 
-  std::size_t Read(char* bytes, std::size_t count) {
-    const std::size_t got = std::fread(bytes, 1, count, file_);
-    if (got < count && std::ferror(file_) != 0) RaiseFileError(path_);
-    return got;
-  }
-
   void Sync() {
     if (std::fflush(file_) != 0 || fsync(fileno(file_)) != 0) RaiseFileError(path_);
   }
@@ -68,15 +62,28 @@ std::filesystem::path Target(const std::filesystem::path& path) {
 
 }  // namespace
 
-std::string ReadFile(const std::filesystem::path& path) {
-  OpenFile file(path, "rb");
+FileSource::FileSource(const std::filesystem::path& path)
+    : path_(path), file_(std::fopen(path.c_str(), "rb")) {
+  if (!file_) RaiseFileError(path_);
+  std::setvbuf(file_.get(), nullptr, _IONBF, 0);  // its readers ask for large pieces
+}
+
+std::size_t FileSource::Read(char* bytes, std::size_t count) {
+  const std::size_t got = std::fread(bytes, 1, count, file_.get());
+  if (got < count && std::ferror(file_.get()) != 0) RaiseFileError(path_);
+  return got;
+}
+
+std::string ReadFile(const std::filesystem::path& path, std::size_t most) {
+  FileSource file(path);
   std::string bytes;
   constexpr std::size_t kChunk = 1 << 16;
-  std::size_t got = kChunk;
-  while (got == kChunk) {
+  std::size_t wanted = kChunk, got = kChunk;
+  while (got == wanted && bytes.size() < most) {
     const std::size_t size = bytes.size();
-    bytes.resize(size + kChunk);
-    got = file.Read(bytes.data() + size, kChunk);
+    wanted = std::min(kChunk, most - size);
+    bytes.resize(size + wanted);
+    got = file.Read(bytes.data() + size, wanted);
     bytes.resize(size + got);
   }
   return bytes;

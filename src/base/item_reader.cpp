@@ -2,6 +2,7 @@
 #include "base/item_reader.h"
 
 #include "base/fault.h"
+#include "base/line_reader.h"
 
 namespace pelorium {
 
@@ -15,17 +16,22 @@ bool EndsItem(char c) { return IsBlank(c) || IsLineEnd(c) || c == ','; }
 
 }  // namespace
 
-ItemReader::ItemReader(std::string_view text) : text_(text.substr(0, text.find(kEndOfText))), rest_(text_) {}
+ItemReader::ItemReader(std::string_view text, std::span<const std::int64_t> lineNumbers)
+    : text_(WithoutByteOrderMark(text.substr(0, text.find(kEndOfText)))),
+      rest_(text_),
+      lineNumbers_(lineNumbers) {}
 
 // The end of a line is its LF, or a CR that no LF follows.
 Fault ItemReader::Place(const Fault& fault) {
   hasPlace_ = true;
-  int line = 1;
+  std::size_t line = 1;
   for (std::size_t i = 0; i < itemStart_; ++i) {
     const bool isPair = text_[i] == '\r' && i + 1 < text_.size() && text_[i + 1] == '\n';
     if (IsLineEnd(text_[i]) && !isPair) ++line;
   }
-  return fault.At(", line " + std::to_string(line));
+  const bool isElsewhere = line <= lineNumbers_.size();
+  return fault.At(", line " +
+                  std::to_string(isElsewhere ? lineNumbers_[line - 1] : static_cast<std::int64_t>(line)));
 }
 
 double ItemReader::Number() {

@@ -1,8 +1,11 @@
 // Free-format items of a text, one after another: numbers separated by blanks, tabs, line ends and at most
-// one comma. Line ends are CR LF, LF or CR; character 26 ends the text.
+// one comma. Line ends are CR LF, LF or CR; a byte order mark before everything is dropped, character 26 ends
+// the text.
 #pragma once
 
 #include <concepts>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -14,7 +17,9 @@ namespace pelorium {
 class ItemReader {
  public:
   // `text` must outlive the reader. Faults end with the line that the item was looked for in, from 1.
-  explicit ItemReader(std::string_view text);
+  // `lineNumbers`, if given, are those that the lines of `text` had in the file that they were taken from,
+  // for the faults.
+  explicit ItemReader(std::string_view text, std::span<const std::int64_t> lineNumbers = {});
 
   // The next item as a number. An empty item between two commas is 0. An item that is not a number as a whole
   // raises BadNumber, the end of the text before an item EndOfFile.
@@ -49,6 +54,7 @@ class ItemReader {
   bool SkipOneLineEnd();
 
   std::string_view text_, rest_;
+  std::span<const std::int64_t> lineNumbers_;
   std::size_t itemStart_ = 0;
   bool hasPlace_ = false;  // a fault was raised: reading is over
 };

@@ -145,6 +145,13 @@ std::optional<double> Convert(std::string_view number) {
   return value;
 }
 
+// 0 for a text that begins with no number, nothing for one too large for a double.
+std::optional<double> ConvertLeading(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+  const std::size_t length = NumberLength(text);
+  return length == 0 ? 0 : Convert(text.substr(0, length));
+}
+
 }  // namespace
 
 double RoundHalfEven(double value) { return std::nearbyint(value); }
@@ -214,12 +221,12 @@ std::string PrintForm(double value) {
 std::string ShortestForm(double value) { return Shortest(value); }
 std::string ShortestForm(float value) { return Shortest(value); }
 
-double Val(std::string_view text) {
-  const std::size_t start = text.find_first_not_of(" \t");
-  if (start == std::string_view::npos) return 0;
-  text.remove_prefix(start);
-  const std::size_t length = NumberLength(text);
-  return length == 0 ? 0 : Convert(text.substr(0, length)).value_or(0);
+double Val(std::string_view text) { return ConvertLeading(text).value_or(0); }
+
+double LeadingNumber(std::string_view text) {
+  const std::optional<double> value = ConvertLeading(text);
+  if (!value) throw Fault(FaultKind::Overflow, std::string(text.substr(0, 40)));
+  return *value;
 }
 
 double WholeNumber(std::string_view text) {

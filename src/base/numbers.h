@@ -40,6 +40,9 @@ std::string ShortestForm(float value);
 // number too large for a double is 0 too: what is typed never ends a handler.
 double Val(std::string_view text);
 
+// The same for values of a file: a number too large for a double raises Overflow.
+double LeadingNumber(std::string_view text);
+
 // A text that is a number as a whole: sign, digits, point, exponent E or D. Anything else raises BadNumber, a
 // number beyond double raises Overflow. The general form of the largest double lies beyond it and reads as
 // that.

@@ -34,6 +34,9 @@ TEST(ItemReader, SeparatesItems) {
       {"-1.5E2,+.5,1D-1", {-150, 0.5, 0.1}},
       {"1 2\x1A 3", {1, 2}},
       {"\x1A", {}},
+      {"\xEF\xBB\xBF"
+       "7",
+       {7}},
   };
   for (const Row& row : table) EXPECT_EQ(Numbers(row.text), row.numbers) << row.text;
 }
@@ -77,6 +80,15 @@ TEST(ItemReader, AFaultTellsItsLine) {
     FAIL();
   } catch (const Fault& fault) {
     EXPECT_STREQ(fault.what(), "bad number: \"x\", line 3");
+  }
+  const std::int64_t numbers[] = {7, 12};
+  ItemReader taken("1\nx", numbers);
+  taken.Number();
+  try {
+    taken.Number();
+    FAIL();
+  } catch (const Fault& fault) {
+    EXPECT_STREQ(fault.what(), "bad number: \"x\", line 12");
   }
   ItemReader wide("1\r70000");
   wide.Number();

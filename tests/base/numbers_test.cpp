@@ -74,6 +74,9 @@ TEST(Numbers, ValTakesTheLongestLeadingNumber) {
       {"1.2.3", 1.2}, {" -3.5e2x", -350}, {"+4", 4},   {"1e-400", 0}, {"1e400", 0}, {"-1e999x", 0},
   };
   for (const auto& [text, value] : table) EXPECT_EQ(Val(text), value) << text;
+  EXPECT_EQ(LeadingNumber(" 2.5x"), 2.5);
+  EXPECT_EQ(LeadingNumber("\t"), 0);
+  EXPECT_TRUE(Raises(FaultKind::Overflow, [] { LeadingNumber("1e999"); }));
 }
 
 TEST(Numbers, WholeNumber) {
