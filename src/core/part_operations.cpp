@@ -15,6 +15,17 @@ void SyncFaceCorners(ModelStore& model, int part) {
   }
 }
 
+void MovePartTo(ModelStore& model, int part, const Vec3& place) {
+  const PointRec& first = model.Points(part, 1);
+  const Vec3 by = {place.X - first.X, place.Y - first.Y, place.Z - first.Z};
+  for (int i = 1; i <= kMaxPoints; ++i) {
+    PointRec& point = model.Points(part, i);
+    point.X += by.X;
+    point.Y += by.Y;
+    point.Z += by.Z;
+  }
+}
+
 std::string CountCaption(const ModelStore& model, int part) {
   const PartHeader& header = model.Part(part);
   return std::to_string(header.maxfaces) + "faces  points " + std::to_string(header.maxpoints);

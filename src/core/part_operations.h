@@ -19,6 +19,9 @@ void LayPoint(ModelStore& model, int part, int number, const Place& place) {
 // below 0 leaves its face as it is; one above 23000 raises a Subscript fault.
 void SyncFaceCorners(ModelStore& model, int part);
 
+// Moves the whole table of points of a Part, in use or not, so that its point 1 lies on `place`.
+void MovePartTo(ModelStore& model, int part, const Vec3& place);
+
 // "12faces  points 8", as the View Options show it.
 std::string CountCaption(const ModelStore& model, int part);
 

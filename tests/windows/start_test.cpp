@@ -51,7 +51,7 @@ TEST_F(Start, EachRunBeginsWithTheSameColours) {
 }
 
 TEST_F(Start, ItemsWithoutTheirWindowAreDisabled) {
-  for (const char* name : {"triangleobj", "mterials", "opentex", "copypart", "erase"}) {
+  for (const char* name : {"triangleobj", "mterials", "opentex", "builtins", "savetex"}) {
     EXPECT_FALSE(app.frame->mdiForm1.Find(name)->enabled()) << name;
   }
   for (const char* name : {"rev", "rev1", "extrudeme", "importprofiles", "formulait", "openproj", "memsave",

@@ -10,10 +10,12 @@
 #include "windows/frame/frame_windows.h"
 #include "windows/frame/image_commands.h"
 #include "windows/frame/mdi_form1.h"
+#include "windows/frame/part_commands.h"
 #include "windows/frame/quick_save.h"
 #include "windows/geometry/geometry_windows.h"
 #include "windows/geometry/revolveprof_revolve_profile.h"
 #include "windows/geometry/weld_seam.h"
+#include "windows/interchange/combine_parts.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/command_row.h"
@@ -64,6 +66,30 @@ const MenuCommand* FindMenuCommand(std::string_view name) {
   const auto found = std::find_if(MenuCommands().begin(), MenuCommands().end(),
                                   [name](const MenuCommand& command) { return command.name == name; });
   return found == MenuCommands().end() ? nullptr : &*found;
+}
+
+void ChangeParts(App& app, const MenuCommand& command, const Control& pressed) {
+  Trapped(app.faults, pressed.FullName(), [&] {
+    command.run(app);
+    if (command.kind == CommandKind::Change) SyncFaceCorners(app);
+  });
+  RefreshViews(app);
+}
+
+// The one button of the row that repeats no menu item.
+const MenuCommand kCollapse = {"",
+                               "",
+                               "",
+                               CommandKind::Change,
+                               "",
+                               CollapseIntoCurrent,
+                               "",
+                               "both Parts become the current one, rounded to 3 decimals, without faces that "
+                               "are off and in one group; the "
+                               "other Part is erased, and the current profile loses its points"};
+
+const MenuCommand* CommandOf(const CommandButton& button) {
+  return button.menuItem.empty() ? &kCollapse : FindMenuCommand(button.menuItem);
 }
 
 }  // namespace
@@ -125,34 +151,55 @@ const std::vector<MenuCommand>& MenuCommands() {
       {"editit", "Edit ", "special5", Edit, "specialeffects5"},
       {"editit", "Precise Edit", "editgeo", Edit, "Form5"},
       {"editit", "Special effects", "special1", Edit, "specialeffects1"},
-      {"editit", "Center ", "centerme", Run},
-      {"editit", "All points on", "ptson", Run},
-      {"editit", "All pts off", "ptsoff", Run},
-      {"editit", "Invert pts", "invertpts", Run},
-      {"editit", "Join faces/points", "joinitall", Run, "", JoinClosePoints},
-      {"editit", "Delete turned off Faces/points", "eraseoff", Run},
-      {"editit", "Subdivide (tri)", "subdivideme", Run},
-      {"editit", "Combine all to Part#", "combineallme", Run},
-      {"editit", "Combine all to Part#--Erase ", "combineit2", Run},
+      {"editit", "Center ", "centerme", Change, "", CenterPart, "",
+       "moves the Part so that its point 1 lies on the origin of Precise Edit"},
+      {"editit", "All points on", "ptson", Mark, "", SwitchAllPointsOn, "",
+       "all points of the Part are chosen"},
+      {"editit", "All pts off", "ptsoff", Mark, "", SwitchAllPointsOff, "", "no point of the Part is chosen"},
+      {"editit", "Invert pts", "invertpts", Mark, "", InvertChosenPoints, "",
+       "points from Points Start to Points End that are on go off, the others on"},
+      {"editit", "Join faces/points", "joinitall", Run, "", JoinClosePoints, "",
+       "points within 2 units of each other are moved onto one place: a small model collapses"},
+      {"editit", "Delete turned off Faces/points", "eraseoff", Mark, "", DeleteTurnedOff, "",
+       "faces that are off fall together on point 1, and all points within 2 units of each other are joined: "
+       "a small model collapses. The counts stay"},
+      {"editit", "Subdivide (tri)", "subdivideme", Mark, "", Subdivide, "",
+       "splits each face that is on in three at its middle, each with points of its own; the others are "
+       "dropped"},
+      {"editit", "Combine all to Part#", "combineallme", Change, "", CombineAll, "",
+       "both Parts become the current one, which is centered; the other one stays"},
+      {"editit", "Combine all to Part#--Erase ", "combineit2", Change, "", CombineAllAndErase, "",
+       "both Parts become the current one, which is centered; the other one is erased"},
 
       {"", "Edit Faces |", "editfaces2"},
-      {"editfaces2", "Erase Faces", "erasefacesme", Run},
-      {"editfaces2", "All Faces on", "faceon", Run},
-      {"editfaces2", "All Faces off", "facesoff", Run},
-      {"editfaces2", "Invert Faces", "invert", Run},
-      {"editfaces2", "Faces on (range)", "facesiton", Run},
-      {"editfaces2", "Faces off (range)", "faceitoff", Run},
-      {"editfaces2", "Combine all  to Part# (erase alll)", "collapseit", Run},
+      {"editfaces2", "Erase Faces", "erasefacesme", Change, "", EraseAllFaces, "",
+       "empties all faces of the Part; its points and counts stay"},
+      {"editfaces2", "All Faces on", "faceon", Mark, "", SwitchAllFacesOn, "",
+       "all faces of the Part are on"},
+      {"editfaces2", "All Faces off", "facesoff", Mark, "", SwitchAllFacesOff, "",
+       "all faces of the Part are off: exports and rebuilding leave them out"},
+      {"editfaces2", "Invert Faces", "invert", Mark, "", InvertFaceRange, "",
+       "faces from Faces Start to Faces End that are on go off, the others on"},
+      {"editfaces2", "Faces on (range)", "facesiton", Mark, "", SwitchFaceRangeOn, "",
+       "the faces from Faces Start to Faces End are on"},
+      {"editfaces2", "Faces off (range)", "faceitoff", Mark, "", SwitchFaceRangeOff, "",
+       "the faces from Faces Start to Faces End are off"},
+      {"editfaces2", "Combine all  to Part# (erase alll)", "collapseit", Change, "", CombineAllAndErase, "",
+       "both Parts become the current one, which is centered; the other one is erased"},
       {"editfaces2", "Edit Face/Vertex and Info", "editfaces", Edit, "editbyface"},
       {"editfaces2", "Freeface Edit/Create", "freefacesme", Edit, "freeface"},
-      {"editfaces2", "Disjoin faces", "disjoinit", Run},
+      {"editfaces2", "Disjoin faces", "disjoinit", Mark, "", Disjoin, "",
+       "gives each face that is on three points of its own; the others are dropped"},
       {"editfaces2", "Flat Pattern/Pick Faces ", "unfoldme", Edit, "unfold"},
 
       {"", "Erase |", "eraseme"},
       {"eraseme", "Erase", "eraseitya"},
-      {"eraseitya", "Erase all but Current Part", "eraseor", Run},
-      {"eraseitya", "Erase Current Part", "erasecurrnt", Run},
-      {"eraseitya", "Erase all ", "erase", Run},
+      {"eraseitya", "Erase all but Current Part", "eraseor", Change, "", EraseOtherParts, "",
+       "empties the other Part and what was copied"},
+      {"eraseitya", "Erase Current Part", "erasecurrnt", Change, "", EraseCurrentPart, "",
+       "empties the current Part"},
+      {"eraseitya", "Erase all ", "erase", Change, "", EraseAll, "",
+       "empties both Parts and what was copied"},
 
       {"", "Image  |", "imageops"},
       {"imageops", "Clear image", "clearimage", Run, "", ClearImage},
@@ -171,9 +218,10 @@ const std::vector<MenuCommand>& MenuCommands() {
       {"viewitere", "Obj view window", "viewerwin", Show, "Form36"},
       {"viewitere", "View options", "viewit", Show, "Form51"},
 
-      {"", "Copy |", "copypart", Run},
-      {"", "Paste |", "pastepart", Run},
-      {"", "Paste Into |", "pasteintome", Run},
+      {"", "Copy |", "copypart", Mark, "", CopyToBuffer, "", "copies the current Part, without its mapping"},
+      {"", "Paste |", "pastepart", Change, "", PasteBuffer, "", "what was copied replaces the current Part"},
+      {"", "Paste Into |", "pasteintome", Change, "", PasteBufferInto, "",
+       "what was copied is added to the current Part"},
       {"", "Parts |", "getparts"},
       {"getparts", "Preset Parts", "builtins", Show, "Dialog"},
       {"getparts", ".obj Parts", "shapesit", Show, "shapes"},
@@ -199,12 +247,14 @@ bool IsAvailable(const App& app, const MenuCommand& command) {
       return control != nullptr && control->enabled();
     }
     case CommandKind::Run:
+    case CommandKind::Change:
+    case CommandKind::Mark:
       return command.run != nullptr;
   }
   return false;
 }
 
-void RunMenuCommand(App& app, const MenuCommand& command) {
+void RunMenuCommand(App& app, const MenuCommand& command, const Control& pressed) {
   switch (command.kind) {
     case CommandKind::Head:
       return;
@@ -226,16 +276,21 @@ void RunMenuCommand(App& app, const MenuCommand& command) {
     case CommandKind::Run:
       command.run(app);
       return;
+    case CommandKind::Change:
+    case CommandKind::Mark:
+      ChangeParts(app, command, pressed);
+      return;
   }
 }
 
 void BindCommandRow(App& app, const std::vector<std::unique_ptr<PushButton>>& row) {
   for (std::size_t i = 0; i < row.size(); ++i) {
-    const MenuCommand* command = FindMenuCommand(CommandButtons()[i].menuItem);
+    const MenuCommand* command = CommandOf(CommandButtons()[i]);
     if (command == nullptr) continue;
-    row[i]->SetEnabled(IsAvailable(app, *command));
-    row[i]->SetToolTip(std::string(command->caption));
-    row[i]->onClick = [&app, command](const Click&) { RunMenuCommand(app, *command); };
+    PushButton& button = *row[i];
+    button.SetEnabled(IsAvailable(app, *command));
+    button.SetToolTip(std::string(command->toolTip.empty() ? command->caption : command->toolTip));
+    button.onClick = [&app, &button, command](const Click&) { RunMenuCommand(app, *command, button); };
   }
 }
 

@@ -20,6 +20,8 @@ enum class CommandKind {
   Press,      // presses the button `target`
   SwitchOn,   // switches the option `target` on
   Run,        // runs `run`
+  Change,     // runs `run` in a trap, brings the corners of the faces along, and refreshes the views
+  Mark,       // the same where no point moves: without the corners
 };
 
 struct MenuCommand {
@@ -30,6 +32,7 @@ struct MenuCommand {
   std::string_view target = {};  // "Form31" or "Form31.Command15"
   void (*run)(App&) = nullptr;
   std::string_view also = {};
+  std::string_view toolTip = {};
 };
 
 const std::vector<MenuCommand>& MenuCommands();
@@ -37,9 +40,10 @@ const std::vector<MenuCommand>& MenuCommands();
 // True when all that the command needs exists: its window, its button (and that is enabled), its routine.
 // Commands whose window is still to come stand in the menu disabled.
 bool IsAvailable(const App& app, const MenuCommand& command);
-void RunMenuCommand(App& app, const MenuCommand& command);
+// Faults are noted under the name of the control that was pressed.
+void RunMenuCommand(App& app, const MenuCommand& command, const Control& pressed);
 
-// The buttons of the row in the view window do what their menu items do.
+// The buttons of the row in the view window do what their menu items do; "Collapse into part#" has none.
 void BindCommandRow(App& app, const std::vector<std::unique_ptr<PushButton>>& row);
 
 }  // namespace pelorium

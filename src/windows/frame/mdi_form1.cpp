@@ -59,7 +59,8 @@ void MDIForm1::BindCommands() {
   for (const MenuCommand& command : MenuCommands()) {
     MenuItem* item = FindItem(menu_, command.name);
     item->SetEnabled(IsAvailable(app_, command));
-    item->onClick = [this, &command](const Click&) { RunMenuCommand(app_, command); };
+    item->SetToolTip(std::string(command.toolTip));
+    item->onClick = [this, item, &command](const Click&) { RunMenuCommand(app_, command, *item); };
   }
   BindCommandRow(app_, app_.view->form36.commandRow);
 }

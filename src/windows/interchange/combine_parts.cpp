@@ -1,0 +1,35 @@
+// One Part of both.
+#include "windows/interchange/combine_parts.h"
+
+#include "core/part_operations.h"
+#include "geometry/choose_points.h"
+#include "windows/shell/app_shell.h"
+#include "windows/shell/hooks.h"
+#include "windows/view/form51_view_options.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
+
+namespace pelorium {
+
+namespace {
+
+ScratchPlaces Places(const App& app) { return ScratchPlacesFor(app.applicationPath, "\\parts1\\temp.obj"); }
+
+}  // namespace
+
+void CombineInto(App& app, int part, OtherParts others) {
+  CombineParts(app.model, part, others, Places(app));
+  FollowCounts(app);
+  MovePartTo(app.model, part, Origin(app));
+  MarkPoints(app.model, part, 1, kMaxPoints, true);
+}
+
+void CollapseIntoCurrent(App& app) {
+  CombineParts(app.model, CurrentPart(app), OtherParts::AreErased, Places(app));
+  app.model.Profile(CurrentProfile(app)).count = 0;
+  app.view->form51.ShowProfileCount();
+  FollowCounts(app);
+  LeaveProfileView(app);
+}
+
+}  // namespace pelorium
