@@ -68,7 +68,9 @@ const MenuCommand* FindMenuCommand(std::string_view name) {
   return found == MenuCommands().end() ? nullptr : &*found;
 }
 
+// The bars that follow are moved by the program, not by a person: no automatic action comes of it.
 void ChangeParts(App& app, const MenuCommand& command, const Control& pressed) {
+  const HoldAutomaticActions hold(app);
   Trapped(app.faults, pressed.FullName(), [&] {
     command.run(app);
     if (command.kind == CommandKind::Change) SyncFaceCorners(app);

@@ -46,8 +46,8 @@ void PasteBufferInto(App& app) {
   FollowPasted(app);
 }
 
-void CombineAll(App& app) { CombineInto(app, CurrentPart(app), OtherParts::Stay); }
-void CombineAllAndErase(App& app) { CombineInto(app, CurrentPart(app), OtherParts::AreErased); }
+void CombineAll(App& app) { CombineIntoCurrent(app, OtherParts::Stay); }
+void CombineAllAndErase(App& app) { CombineIntoCurrent(app, OtherParts::AreErased); }
 
 void EraseAll(App& app) {
   for (int part = 0; part < kParts; ++part) ErasePart(app.model, part);
