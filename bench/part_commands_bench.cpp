@@ -1,12 +1,14 @@
 // Menu commands on whole Parts with full tables, from the press to the pixels of the view.
 #include "full_model.h"
 #include "program.h"
+#include "windows/view/form51_view_options.h"
 
 namespace pelorium {
 namespace {
 
 void PressItem(benchmark::State& state, const char* item) {
   Program program;
+  program.app.view->form51.Option4.SetValue(true);
   UserEvent event;
   event.window = "MDIForm1";
   event.control = item;
