@@ -83,9 +83,15 @@ GroupColours WireColours(const ModelStore& model) {
   return colours;
 }
 
-void DrawWire(const ModelStore& model, const Canvas& canvas) {
+// The user's Parts, or the current one alone.
+std::pair<int, int> ShownParts(const ViewSettings& settings) {
+  if (settings.showOtherParts) return {0, kUserParts - 1};
+  return {settings.currentPart, settings.currentPart};
+}
+
+void DrawWire(const ModelStore& model, const ViewSettings& settings, const Canvas& canvas) {
   const GroupColours colours = WireColours(model);
-  for (int part = 0; part < kUserParts; ++part) {
+  for (auto [part, last] = ShownParts(settings); part <= last; ++part) {
     for (const FaceRec& face : FaceRange(model, part, FirstFace(model, part), model.Part(part).maxfaces)) {
       if (face.group < 0 || face.group > kMaxGroup) model.MaterialGroups(face.group);  // raises the fault
       canvas.picture.foreColour = colours[static_cast<std::size_t>(face.group)];
@@ -100,10 +106,10 @@ void DrawChosenFace(const ModelStore& model, const ViewSettings& settings, const
   if (face.onoff == 1) DrawEdges(canvas, face);
 }
 
-void DrawAllPoints(const ModelStore& model, const Canvas& canvas) {
+void DrawAllPoints(const ModelStore& model, const ViewSettings& settings, const Canvas& canvas) {
   canvas.picture.foreColour = kAllPointsColour;
   canvas.picture.drawWidth = kPointWidth;
-  for (int part = 0; part < kUserParts; ++part) {
+  for (auto [part, last] = ShownParts(settings); part <= last; ++part) {
     int i = 1;
     for (const PointRec& point : PointRange(model, part, 1, model.Part(part).maxpoints)) {
       if (model.PointMark(part, i++) == 1) canvas.picture.DotAt(canvas.At(point));
@@ -204,9 +210,9 @@ void Views::DrawProfiles(const Canvas& canvas, bool others, bool current, Colour
 void Views::DrawParts(const Canvas& canvas) {
   picture_.drawWidth = 1;
   picture_.foreColour = Rgb(100, 100, 100);
-  if (settings_.showWire) Try("DrawWire", [&] { DrawWire(model_, canvas); });
+  if (settings_.showWire) Try("DrawWire", [&] { DrawWire(model_, settings_, canvas); });
   if (settings_.showChosenFace) Try("DrawChosenFace", [&] { DrawChosenFace(model_, settings_, canvas); });
-  if (settings_.showAllPoints) Try("DrawAllPoints", [&] { DrawAllPoints(model_, canvas); });
+  if (settings_.showAllPoints) Try("DrawAllPoints", [&] { DrawAllPoints(model_, settings_, canvas); });
   if (settings_.showChosenPoints)
     Try("DrawChosenPoints", [&] { DrawChosenPoints(model_, settings_, canvas); });
   DrawProfiles(canvas, settings_.showOtherProfiles, settings_.showProfile || settings_.showOtherProfiles,
@@ -242,7 +248,7 @@ void Views::DrawOrigin(Projection projection) {
 void Views::DrawProfileView() {
   const Canvas canvas = CanvasOf(settings_.profileProjection);
   picture_.drawWidth = 1;
-  if (settings_.showPartsInProfileView) Try("DrawWire", [&] { DrawWire(model_, canvas); });
+  if (settings_.showPartsInProfileView) Try("DrawWire", [&] { DrawWire(model_, settings_, canvas); });
   DrawProfiles(canvas, true, true, Rgb(220, 220, 220));
   Try("DrawAxes", [this] { DrawAxes(settings_, picture_); });
   DrawOrigin(settings_.profileProjection);

@@ -31,6 +31,7 @@ struct ViewSettings {
   bool showGrid = true;
   bool showWire = true;  // of both user Parts
   bool showChosenFace = false;
+  bool showOtherParts = true;      // not only the current one, with either
   bool showAllPoints = false;      // of both user Parts
   bool showChosenPoints = true;    // the chosen range of the current Part
   bool showProfile = false;        // the current profile over the mesh

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <ostream>
+#include <set>
 #include <sstream>
 
 #include "controls/buttons.h"
@@ -21,7 +22,7 @@ namespace pelorium {
 namespace {
 
 // A program without a screen, with a few controls of the tests' own in one of its windows.
-class Transcripts : public FolderTest, public ::testing::WithParamInterface<const char*> {
+class Transcripts : public FolderTest, public ::testing::WithParamInterface<std::string> {
  protected:
   Transcripts() : old_(std::filesystem::current_path()) {
     std::filesystem::current_path(folder());
@@ -123,13 +124,21 @@ class Transcripts : public FolderTest, public ::testing::WithParamInterface<cons
 };
 
 TEST_P(Transcripts, AnswerAsTheyDid) {
-  const std::string name = std::string("script/transcripts/") + GetParam() + ".txt";
+  const std::string name = "script/transcripts/" + GetParam() + ".txt";
   EXPECT_TRUE(MatchesGolden(Played(BytesOf(std::filesystem::path(PELORIUM_TESTS_DIR) / name)), name));
 }
 
-INSTANTIATE_TEST_SUITE_P(Script, Transcripts,
-                         ::testing::Values("events", "places", "tables", "commands", "runs", "parts"),
-                         [](const auto& made) { return std::string(made.param); });
+std::set<std::string> NamesOfTranscripts() {
+  std::set<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(PELORIUM_TESTS_DIR) /
+                                                               "script" / "transcripts")) {
+    if (entry.path().extension() == ".txt") names.insert(entry.path().stem());
+  }
+  return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(Script, Transcripts, ::testing::ValuesIn(NamesOfTranscripts()),
+                         [](const auto& made) { return made.param; });
 
 }  // namespace
 }  // namespace pelorium

@@ -123,7 +123,7 @@ class Monkey : public AppTest, public testing::WithParamInterface<int> {
       ASSERT_TRUE(count >= 0 && count <= kMaxLayer) << "step " << step;
     }
     ASSERT_EQ(app.automaticActionsHeld, 0) << "step " << step;
-    ASSERT_TRUE(app.TessCount >= 1 && app.TessCount <= 3850) << "step " << step;
+    ASSERT_TRUE(app.TessCount >= 1 && app.TessCount <= kMaxPoints + 1) << "step " << step;
   }
 
   RandomSeries series;

@@ -51,14 +51,14 @@ TEST_F(Start, EachRunBeginsWithTheSameColours) {
 }
 
 TEST_F(Start, ItemsWithoutTheirWindowAreDisabled) {
-  for (const char* name : {"triangleobj", "mterials", "opentex", "builtins", "savetex"}) {
+  for (const char* name : {"mterials", "opentex", "builtins", "savetex"}) {
     EXPECT_FALSE(app.frame->mdiForm1.Find(name)->enabled()) << name;
   }
   for (const char* name : {"rev", "rev1", "extrudeme", "importprofiles", "formulait", "openproj", "memsave",
                            "joinit", "exiter", "aboutit", "estarea"}) {
     EXPECT_TRUE(app.frame->mdiForm1.Find(name)->enabled()) << name;
   }
-  EXPECT_FALSE(app.Deliver({"MDIForm1", "triangleobj"}));
+  EXPECT_FALSE(app.Deliver({"MDIForm1", "mterials"}));
 }
 
 TEST_F(Start, EveryMenuItemHasItsHeadAndEveryButtonItsItem) {

@@ -11,6 +11,9 @@ FacetoolWindows::FacetoolWindows(App& app)
     : editbyface(app.Add<EditByFace>()), freeface(app.Add<FreeFace>()) {
   app.links.chosenPoint = [this] { return editbyface.VScroll1.value(); };
   app.links.chosenFace = [this] { return editbyface.VScroll2.value(); };
+  app.links.chooseFace = [this](int face) {
+    editbyface.VScroll2.SetValue(editbyface.VScroll2.Clamped(face));
+  };
   app.links.pressCap = [this](Cap cap, const LaidGrid& body) { freeface.PressCap(cap, body); };
   app.links.freeFaceRange = [this](int faces, int points) { freeface.SetRange(faces, points); };
   app.links.endCap = [this](int layer, std::optional<int> start) { freeface.MakeEndCap(layer, start); };

@@ -1,10 +1,8 @@
 // Drags and picks on the small pictures of "Edit Geometry".
 #include "windows/geometry/geometry_drag.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "base/numbers.h"
 #include "core/chosen_points.h"
 #include "geometry/edit_chosen_points.h"
 #include "views/draw_views.h"
@@ -12,6 +10,7 @@
 #include "windows/geometry/geometry_windows.h"
 #include "windows/geometry/revolveprof_revolve_profile.h"
 #include "windows/geometry/specialeffects5_edit_geometry.h"
+#include "windows/geometry/view_miniature.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/drag_factor.h"
 #include "windows/shell/hooks.h"
@@ -27,13 +26,6 @@ namespace {
 constexpr double kSpeed = 0.5;      // units or degrees for each unit dragged, at a factor of 1
 constexpr double kSlowerTurn = 10;  // the second turn is slower by this
 constexpr Colour kAreaColour = Rgb(250, 250, 250);
-
-// Pixels of an area that stands for the whole view: as wide as it was made, as high as the view's shape asks
-// for.
-int HeightLike(const Picture& view, int width) {
-  const double height = static_cast<double>(width) * view.PixelHeight() / view.PixelWidth();
-  return std::clamp(static_cast<int>(RoundHalfEven(height)), 1, 4 * width);
-}
 
 // A factor of 1 would round the last digit.
 void ScaleBySign(ModelStore& model, const ChosenPoints& chosen, Axis axis, double dragged,
@@ -73,21 +65,15 @@ GeometryDrag::GeometryDrag(App& app, PictureBox& picture, std::function<Geometry
 
 void GeometryDrag::FollowView() {
   Picture& area = picture_.picture();
-  const Picture& view = app_.view->form36.Picture1.measures();
-  const bool isWholeView = mode_() == GeometryMode::PickPoints;
-  const int wantedHeight = isWholeView ? HeightLike(view, ownWidth_) : ownHeight_;
-  if (area.PixelHeight() != wantedHeight) area.Resize(ownWidth_, wantedHeight);
+  if (mode_() == GeometryMode::PickPoints) return FollowWholeView(app_, area, ownWidth_);
+  if (area.PixelHeight() != ownHeight_) area.Resize(ownWidth_, ownHeight_);
   const double width = area.PixelWidth(), height = area.PixelHeight();
-  switch (mode_()) {
-    case GeometryMode::PickPoints:
-      area.SetScale(view.ScaleWidth(), view.ScaleHeight());
-      break;
-    case GeometryMode::MoveOrigin:
-      area.SetScale(width * view.ScaleWidth() / view.PixelWidth(),
-                    height * view.ScaleHeight() / view.PixelHeight());
-      break;
-    default:
-      area.SetScale(width, height);
+  if (mode_() == GeometryMode::MoveOrigin) {
+    const Picture& view = app_.view->form36.Picture1.measures();
+    area.SetScale(width * view.ScaleWidth() / view.PixelWidth(),
+                  height * view.ScaleHeight() / view.PixelHeight());
+  } else {
+    area.SetScale(width, height);
   }
 }
 

@@ -12,6 +12,7 @@ struct GeometryWindows {
   class Form55& form55;
   class SpecialEffects1& specialeffects1;
   class SpecialEffects5& specialeffects5;
+  class SpecialEffects6& specialeffects6;
 };
 
 }  // namespace pelorium

@@ -33,7 +33,11 @@ struct RoomLinks {
   std::function<PickShapeSettings()> pickShape;
   std::function<void(int sections)> showSections;  // "Sections" of Revolve Profile, held in its bar
 
+  // A click while the view draws a mesh together: its next point, at X, Y of the model.
+  std::function<void(double x, double y)> addMeshPoint;
+
   // facetools
+  std::function<void(int face)> chooseFace;
   std::function<int()> chosenPoint, chosenFace;  // of the current Part, as the views mark them
   // Closes a body that was just laid; one without rows gets no cap.
   std::function<void(Cap cap, const LaidGrid& body)> pressCap;

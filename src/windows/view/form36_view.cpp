@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "graphics/picture_gray.h"
 #include "views/zoom.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/hooks.h"
@@ -57,6 +58,7 @@ Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mo
   Picture1.picture().SetScale(15, -15);
   Picture2.picture().backColour = Rgb(0, 0, 0);
   Picture2.picture().Clear();
+  noImage_ = Picture2.picture().Revision();
   for (ScrollBar* pan : {&HScroll1, &VScroll1}) pan->onChange = [this] { RefreshViews(app_); };
   Command12.onClick = [this](const Click& click) { ZoomByButton(click); };
   Command16.onClick = [this](const Click&) { app_.view->shadedView->DrawShaded(); };
@@ -203,7 +205,13 @@ void Form36::ShowBackground() {
 void Form36::ClearBackground() {
   Picture1.picture().SetBackdrop(nullptr);
   Label53.SetCaption({});
+  noImage_ = Picture2.picture().Revision();
   RefreshViews(app_);
+}
+
+int Form36::ImageGrayAt(double x, double y) const {
+  const Picture& image = Picture2.picture();
+  return image.Revision() == noImage_ ? -1 : GrayAt(image, x, kViewHeight - y);
 }
 
 void Form36::MoveBackground() {

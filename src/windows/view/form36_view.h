@@ -1,6 +1,7 @@
 // The "View and edit window": the picture of the model, the mouse on it, and a row of the commonest commands.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -48,6 +49,10 @@ class Form36 : public ToolWindow {
   // Lays Picture2 behind the model, or takes it away.
   void ShowBackground();
   void ClearBackground();
+
+  // The gray level of the image under a place of the model; -1 outside, and while no image was put there
+  // since the last ClearBackground. The image's first row lies kViewHeight units above the origin.
+  int ImageGrayAt(double x, double y) const;
 
   ViewMouse mouse;  // on Picture1
 
@@ -113,6 +118,7 @@ class Form36 : public ToolWindow {
   LayoutItem DeclareLayout();
 
   Content content_ = Content::Wire;
+  std::uint64_t noImage_ = 0;  // revision of Picture2 while it counts as empty
 };
 
 }  // namespace pelorium

@@ -24,8 +24,7 @@ namespace {
 constexpr int kLengthDecimals = 2;
 constexpr Colour kNextLineColour = Rgb(250, 0, 0);
 constexpr Colour kShapeColour = Rgb(250, 250, 250);
-constexpr double kPickPixels = 8;      // how near to the mouse a point lies that is meant
-constexpr int kMostTesselated = 3850;  // the triangles of one point fewer still fit into the table
+constexpr double kPickPixels = 8;  // how near to the mouse a point lies that is meant
 
 std::string WholeText(double value) { return GeneralForm(std::floor(value)); }
 
@@ -109,7 +108,8 @@ void ViewMouse::Down(const MouseEvent& event) {
     ShowGreyLevel(event);
     if (ArmedTool(app_) == Tool::PickPoints) PressPick(event);
     if (ArmedTool(app_) == Tool::None) ShowPicked(event);
-    if (ChosenView(app_) == ViewMode::Tesselate) ClickTesselated(event);
+    if (ChosenView(app_) == ViewMode::Tesselate)
+      app_.links.addMeshPoint(std::floor(event.x) - ViewPan(app_).x, std::floor(event.y) - ViewPan(app_).y);
     if (IsProfileViewChosen(app_) && !IsLeaning(app_)) PressProfile(event);
   });
 }
@@ -150,20 +150,6 @@ void ViewMouse::ShowPicked(const MouseEvent& event) {
   const std::optional<int> number = NearestPoint(app_.model, CurrentPart(app_), PointRangeStart(app_),
                                                  PointRangeEnd(app_), *pickView_, event.x, event.y, within);
   if (number) app_.view->form36.Label16.SetCaption(std::to_string(*number));
-}
-
-// Each click adds a point to the mesh that is tesselated later; its Z stays as it was.
-void ViewMouse::ClickTesselated(const MouseEvent& event) {
-  const int part = CurrentPart(app_), number = app_.TessCount;
-  PointRec& point = app_.model.Points(part, number);
-  point.X = std::floor(event.x) - ViewPan(app_).x;
-  point.Y = std::floor(event.y) - ViewPan(app_).y;
-  point.onoff = app_.model.PointMark(part, number) = 1;
-  app_.TessCount = number + 1 > kMostTesselated ? 1 : number + 1;
-  app_.model.Part(part).maxpoints = Narrow<std::int16_t>(number);
-  FollowPoints(app_);
-  SyncFaceCorners(app_);
-  RefreshViews(app_);
 }
 
 void ViewMouse::PressProfile(const MouseEvent& event) {

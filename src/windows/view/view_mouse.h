@@ -47,7 +47,6 @@ class ViewMouse {
   PickArea AreaAt(const MouseEvent& event) const;
   void Pick(const MouseEvent& event);
   void ShowPicked(const MouseEvent& event);
-  void ClickTesselated(const MouseEvent& event);
   void PressProfile(const MouseEvent& event);
   void DrawPoint(const MouseEvent& event);
   void ChooseLayer(const MouseEvent& event);
