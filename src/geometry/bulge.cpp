@@ -3,6 +3,7 @@
 // first.
 #include "geometry/bulge.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <vector>
@@ -82,20 +83,23 @@ void MovePoint(const BulgeSettings& settings, PointRec& point, const Vec3& pulli
 }  // namespace
 
 void Bulge(ModelStore& model, const BulgeSettings& settings) {
-  const std::vector<Vec3> places = ProfilePoints(model, settings.firstProfile, settings.lastProfile);
+  // Turned round, so that the grid tells the first of them first and its buckets can be left early.
+  std::vector<Vec3> places = ProfilePoints(model, settings.firstProfile, settings.lastProfile);
+  std::reverse(places.begin(), places.end());
   const Reach reach(settings);
   NeighbourGrid grid(reach.sides(), static_cast<int>(places.size()));
   for (const Vec3& place : places) grid.Add(place);
   const bool wantsFirst = settings.effect == BulgeEffect::Snap;  // the others do the same whoever reaches
   ForEachChosen(model, settings.chosen, [&](int, PointRec& point) {
     const Vec3 at{point.X, point.Y, point.Z};
-    int first = kNone;
+    int found = kNone;
     grid.VisitNear(at, [&](int item) {
-      if ((first == kNone || item < first) && reach.Holds(at, places[static_cast<std::size_t>(item)]))
-        first = item;
-      return wantsFirst || first == kNone;
+      if (item <= found || (found != kNone && !wantsFirst)) return false;
+      if (!reach.Holds(at, places[static_cast<std::size_t>(item)])) return true;
+      found = item;
+      return false;
     });
-    if (first != kNone) MovePoint(settings, point, places[static_cast<std::size_t>(first)]);
+    if (found != kNone) MovePoint(settings, point, places[static_cast<std::size_t>(found)]);
   });
 }
 

@@ -29,15 +29,13 @@ class NeighbourGrid {
     first = static_cast<int>(nexts_.size()) - 1;
   }
 
-  // Visits at least all items within reach, until `visit` returns false.
+  // Visits at least all items within reach, in each bucket the latest first and until `visit` returns false.
   template <typename Visit>
   void VisitNear(const Vec3& place, Visit visit) const {
     const std::int64_t x = Cell(place.X, cellX_), y = Cell(place.Y, cellY_), z = Cell(place.Z, cellZ_);
     for (std::int64_t i = x - 1; i <= x + 1; ++i) {
       for (std::int64_t j = y - 1; j <= y + 1; ++j) {
-        for (std::int64_t k = z - 1; k <= z + 1; ++k) {
-          if (!VisitBucket(Bucket(i, j, k), visit)) return;
-        }
+        for (std::int64_t k = z - 1; k <= z + 1; ++k) VisitBucket(Bucket(i, j, k), visit);
       }
     }
   }
@@ -65,11 +63,10 @@ class NeighbourGrid {
   }
 
   template <typename Visit>
-  bool VisitBucket(std::size_t bucket, Visit visit) const {
+  void VisitBucket(std::size_t bucket, Visit& visit) const {
     for (int item = firsts_[bucket]; item != kNone; item = nexts_[static_cast<std::size_t>(item)]) {
-      if (!visit(item)) return false;
+      if (!visit(item)) return;
     }
-    return true;
   }
 
   double cellX_, cellY_, cellZ_;
