@@ -23,6 +23,10 @@ void MarkPoints(ModelStore& model, int part, int first, int last, bool on) {
   for (int i = first; i <= last; ++i) MarkPoint(model, part, i, on);
 }
 
+void MarkEvery(ModelStore& model, int part, int step, bool on) {
+  for (int i = 1; step >= 1 && i <= model.Part(part).maxpoints; i += step) MarkPoint(model, part, i, on);
+}
+
 void InvertPoints(ModelStore& model, int part, int first, int last) {
   for (int i = first; i <= last; ++i) MarkPoint(model, part, i, model.PointMark(part, i) != 1);
 }

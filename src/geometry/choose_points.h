@@ -15,6 +15,9 @@ void MarkPoint(ModelStore& model, int part, int point, bool on);
 // The points first..last, none when last < first.
 void MarkPoints(ModelStore& model, int part, int first, int last, bool on);
 
+// Points 1, 1 + step, 1 + 2 * step .. of those in use; a step below 1 marks none.
+void MarkEvery(ModelStore& model, int part, int step, bool on);
+
 // Those that are chosen no more, the others now.
 void InvertPoints(ModelStore& model, int part, int first, int last);
 

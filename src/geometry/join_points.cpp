@@ -4,11 +4,12 @@
 // look around; and a grid of cells no smaller than the tolerance says who is near.
 #include "geometry/join_points.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
 #include <vector>
+
+#include "geometry/neighbour_grid.h"
 
 namespace pelorium {
 
@@ -21,62 +22,6 @@ double Distance(const Vec3& a, const Vec3& b) {
   return std::sqrt(x * x + y * y + z * z);
 }
 
-// Items by place, in buckets of cells. A bucket may hold several cells, so a finder measures for itself.
-class NeighbourGrid {
- public:
-  NeighbourGrid(double reach, int items)
-      : cellSize_(std::max(reach * kMargin, kSmallestCell)), firsts_(kBuckets, kNone) {
-    nexts_.reserve(static_cast<std::size_t>(items));
-  }
-
-  // Items are numbered from 0 in the order in which they come.
-  void Add(const Vec3& place) {
-    int& first = firsts_[Bucket(Cell(place.X), Cell(place.Y), Cell(place.Z))];
-    nexts_.push_back(first);
-    first = static_cast<int>(nexts_.size()) - 1;
-  }
-
-  // Visits at least all items within reach.
-  template <typename Visit>
-  void VisitNear(const Vec3& place, Visit visit) const {
-    const std::int64_t x = Cell(place.X), y = Cell(place.Y), z = Cell(place.Z);
-    for (std::int64_t i = x - 1; i <= x + 1; ++i) {
-      for (std::int64_t j = y - 1; j <= y + 1; ++j) {
-        for (std::int64_t k = z - 1; k <= z + 1; ++k) VisitBucket(Bucket(i, j, k), visit);
-      }
-    }
-  }
-
- private:
-  static constexpr int kNone = -1;
-  static constexpr std::size_t kBuckets = 1 << 16;
-  static constexpr double kMargin = 1.001;       // covers the rounding of distances and cells
-  static constexpr double kSmallestCell = 1e-6;  // units
-  static constexpr double kFarthestCell = 1e12;  // places beyond share the outermost cells
-
-  std::int64_t Cell(double coordinate) const {
-    const double cell = std::floor(coordinate / cellSize_);
-    if (!(cell > -kFarthestCell)) return static_cast<std::int64_t>(-kFarthestCell);
-    return static_cast<std::int64_t>(std::min(cell, kFarthestCell));
-  }
-
-  static std::size_t Bucket(std::int64_t x, std::int64_t y, std::int64_t z) {
-    const std::uint64_t mixed = static_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15U ^
-                                static_cast<std::uint64_t>(y) * 0xC2B2AE3D27D4EB4FU ^
-                                static_cast<std::uint64_t>(z) * 0x165667B19E3779F9U;
-    return static_cast<std::size_t>(mixed >> 48);
-  }
-
-  template <typename Visit>
-  void VisitBucket(std::size_t bucket, Visit visit) const {
-    for (int item = firsts_[bucket]; item != kNone; item = nexts_[static_cast<std::size_t>(item)])
-      visit(item);
-  }
-
-  double cellSize_;
-  std::vector<int> firsts_, nexts_;
-};
-
 // Places that can be taken, each at most once.
 class Cloud {
  public:
@@ -84,7 +29,7 @@ class Cloud {
       : tolerance_(tolerance),
         places_(std::move(places)),
         isTaken_(places_.size(), false),
-        grid_(tolerance, static_cast<int>(places_.size())) {
+        grid_({tolerance, tolerance, tolerance}, static_cast<int>(places_.size())) {
     for (const Vec3& place : places_) grid_.Add(place);
   }
 
@@ -92,10 +37,11 @@ class Cloud {
   void GatherAt(const Vec3 place) {
     grid_.VisitNear(place, [&](int item) {
       const auto i = static_cast<std::size_t>(item);
-      if (isTaken_[i] || !(Distance(place, places_[i]) <= tolerance_)) return;
+      if (isTaken_[i] || !(Distance(place, places_[i]) <= tolerance_)) return true;
       isTaken_[i] = true;
       if (places_[i] != place) ++moved_;
       places_[i] = place;
+      return true;
     });
   }
 

@@ -181,7 +181,7 @@ TEST_F(ViewMouseTest, TheLengthShowsWithoutItsLine) {
 TEST_F(ViewMouseTest, TheBrushHasAPlaneInEveryView) {
   std::vector<std::pair<Axis, Axis>> planes;
   app.view->form36.mouse.onBrush = [&](const BrushTouch& touch) {
-    planes.push_back({touch.across, touch.up});
+    planes.push_back({touch.axes.across, touch.axes.up});
   };
   for (OptionButton* view : {&app.view->form51.Option5, &app.view->form51.Option3, &app.view->form51.Option2,
                              &app.view->form51.Option6, &app.view->form51.Option4}) {

@@ -1,6 +1,7 @@
 // The "View and edit window".
 #include "windows/view/form36_view.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -191,6 +192,20 @@ void Form36::ShowGreyLevel(Colour colour) {
   const int red = Red(colour), green = Green(colour), blue = Blue(colour);
   Label53.SetCaption(std::to_string(red) + " " + std::to_string(green) + " " + std::to_string(blue) +
                      "  grey " + std::to_string(GrayLevel(static_cast<int>(colour))));
+}
+
+void Form36::TakeImage(const Picture& image) {
+  Picture& to = Picture2.picture();
+  to.Resize(kImageWidth, kImageHeight);
+  to.SetScale(kImageWidth, kImageHeight);
+  std::vector<std::uint32_t> pixels = to.Pixels();
+  const int width = std::min(image.PixelWidth(), kImageWidth);
+  for (int y = 0; y < std::min(image.PixelHeight(), kImageHeight); ++y) {
+    std::copy_n(image.Pixels().begin() + std::ptrdiff_t{y} * image.PixelWidth(), width,
+                pixels.begin() + std::ptrdiff_t{y} * kImageWidth);
+  }
+  to.SetPixels(pixels);
+  Picture2.NotifyChanged();
 }
 
 void Form36::ShowBackground() {

@@ -46,6 +46,9 @@ class Form36 : public ToolWindow {
   // The colour under the mouse, while an image lies behind the model.
   void ShowGreyLevel(Colour colour);
 
+  // Picture2 gets the image from its top left on, a pixel a pixel, and is black where the image ends.
+  void TakeImage(const Picture& image);
+
   // Lays Picture2 behind the model, or takes it away.
   void ShowBackground();
   void ClearBackground();

@@ -254,8 +254,8 @@ void ViewMouse::ShowNextLine(const MouseEvent& event) {
 
 void ViewMouse::Brush(const MouseEvent& event) {
   if (!onBrush || !brushView_) return;
-  const DragAxes plane = BrushAxesOf(brushView_->projection);
-  onBrush({plane.across, plane.up, event.x - brushView_->panX, event.y - brushView_->panY, event});
+  onBrush({BrushAxesOf(brushView_->projection), event.x - brushView_->panX, event.y - brushView_->panY,
+           StepTo(event)});
 }
 
 // The circle follows the mouse; the rectangle grows with it while a button is held, and picks as it grows.

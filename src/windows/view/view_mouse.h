@@ -17,11 +17,12 @@ class App;
 // nearest picture of the tri view. Empty where points cannot be picked.
 std::optional<PickView> PickViewAt(const App& app, double x, double y);
 
-// A touch of the brush: a place in the plane of two model axes. The third coordinate is the origin's.
+// A touch of the brush: a place in the plane of two model axes, and the way there from the last one. The
+// third coordinate is the origin's.
 struct BrushTouch {
-  Axis across = Axis::X, up = Axis::Y;
+  DragAxes axes;
   double x = 0, y = 0;
-  MouseEvent event;
+  DragStep step;
 };
 
 class ViewMouse {
