@@ -9,7 +9,7 @@
 #include "base/random_series.h"
 #include "geometry/conjoin.h"
 #include "geometry/copy_nearest.h"
-#include "geometry/copy_part.h"
+#include "geometry/part_copies.h"
 #include "support/harness.h"
 #include "support/model_text.h"
 

@@ -14,7 +14,7 @@
 #include "core/chosen_points.h"
 #include "geometry/bulge.h"
 #include "geometry/conform.h"
-#include "geometry/copy_part.h"
+#include "geometry/part_copies.h"
 #include "geometry/flatten.h"
 #include "windows/shell/tool_window.h"
 #include "windows/view/view_mouse.h"

@@ -1,5 +1,5 @@
 // Copies of Parts. All is read before anything is written, so that a Part may be copied over itself.
-#include "geometry/copy_part.h"
+#include "geometry/part_copies.h"
 
 #include <algorithm>
 #include <vector>
