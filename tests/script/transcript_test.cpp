@@ -128,7 +128,7 @@ TEST_P(Transcripts, AnswerAsTheyDid) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Script, Transcripts,
-                         ::testing::Values("events", "places", "tables", "commands", "runs"),
+                         ::testing::Values("events", "places", "tables", "commands", "runs", "drags"),
                          [](const auto& made) { return std::string(made.param); });
 
 }  // namespace

@@ -167,7 +167,7 @@ class DoingsOf {
     if (const auto* list = dynamic_cast<const ListBox*>(&control)) Choose(*list);
     if (kind == ControlKind::PictureBox) Strokes(static_cast<const PictureBox&>(control));
     if (control.onDoubleClick) Do(UserAction::DoubleClick);
-    for (const char key : std::string_view(control.onKey ? "mrspo-" : "")) {
+    for (const char key : std::string_view(control.onKey ? "mmrspo-" : "")) {
       Do(UserAction::Key).text = key;
       doings_.back().telling = Doing::Telling::IfAnything;
     }
