@@ -145,25 +145,6 @@ TEST_F(EditGeometryWindow, FacesFollowTheChoices) {
   EXPECT_EQ(FacesOn(), "01");
 }
 
-TEST_F(EditGeometryWindow, TheFaceRangeIsOneForAllWindows) {
-  window.Check2.SetValue(true);
-  window.HScroll4.Drag(2);
-  EXPECT_EQ(FaceRangeStart(app), 2);
-  EXPECT_EQ(Marks(), "0111");
-  window.HScroll5.Drag(0);
-  EXPECT_EQ(FaceRangeEnd(app), 0);
-  EXPECT_EQ(Marks(), "0000");
-  app.view->form51.HScroll5.Drag(2);
-  EXPECT_EQ(window.HScroll5.box.text(), "2");
-  EXPECT_EQ(Marks(), "0111");
-  app.model.Part(0).maxfaces = 1;
-  FollowCounts(app);  // the choice of points stays
-  EXPECT_EQ(Marks(), "0111");
-  EXPECT_EQ(window.HScroll4.value(), 1);
-  EXPECT_EQ(window.HScroll5.value(), 1);
-  EXPECT_EQ(window.HScroll5.max(), 1);
-}
-
 TEST_F(EditGeometryWindow, MovesKeepStepWithTheView) {
   window.Command4.Press();
   window.Command18.Press();  // 0.75 units a pixel
@@ -176,16 +157,6 @@ TEST_F(EditGeometryWindow, MovesKeepStepWithTheView) {
   for (const char* picture : {"Picture1", "Picture2", "Picture3"}) Drag(picture, 10, 20);
   EXPECT_EQ(Place(4), (Vec3{15, -30, 0}));
   EXPECT_EQ(Face(2).c3Y, -30);
-}
-
-TEST_F(EditGeometryWindow, TurnsAreHalfADegreeAUnit) {
-  window.Command4.Press();
-  Drag("Picture2", 10, 20);
-  EXPECT_EQ(Place(2), (Vec3{9.96194699189883, 0, -0.871557301958874}));
-  EXPECT_EQ(Place(3), (Vec3{0, 20, 0}));
-  window.Option8.SetValue(true);
-  Drag("Picture1", 10, 20, kRight);
-  EXPECT_EQ(Place(3), (Vec3{1.743114603917748, 19.920859479116615, -0.3477198454191483}));
 }
 
 TEST_F(EditGeometryWindow, ScalesByTheWayOfTheDrag) {
@@ -248,29 +219,6 @@ TEST_F(EditGeometryWindow, AreasPickInTheProjectionOfTheView) {
   EXPECT_EQ(Marks(), "0001");
   window.Option7.SetValue(true);
   EXPECT_EQ(window.Picture1.measures().ScaleHeight(), window.Picture1.measures().PixelHeight());
-}
-
-TEST_F(EditGeometryWindow, MirrorsAndSteps) {
-  window.Command4.Press();
-  app.view->form5.Text9.SetText("5");
-  app.view->form5.HScroll10.SetValue(3);
-  window.Command12.Press();
-  EXPECT_EQ(Place(3), (Vec3{0, -10, 0}));
-  window.Command15.Press();
-  window.Command17.Press(kRight);
-  EXPECT_EQ(Place(3), (Vec3{3, -10, -3}));
-  EXPECT_EQ(Face(1).c3X, 3);
-}
-
-TEST_F(EditGeometryWindow, ThePartAndItsWireFollow) {
-  window.HScroll1.Drag(1);
-  EXPECT_EQ(CurrentPart(app), 1);
-  app.view->form51.HScroll4.SetValue(0);
-  EXPECT_EQ(window.HScroll1.box.text(), "0");
-  window.Check1.SetValue(false);
-  EXPECT_FALSE(app.view->form51.Check7.value());
-  app.view->form51.Check7.SetValue(true);
-  EXPECT_TRUE(window.Check1.value());
 }
 
 TEST_F(EditGeometryWindow, WithoutEditObjADragOnlyShowsItsWay) {

@@ -45,18 +45,6 @@ TEST_F(ExtrudeWindow, FirstPressMakesOneRingFewerThanTheNext) {
   EXPECT_EQ(app.model.Faces(0, 1).c2X, 110);  // the corner copies are fresh
 }
 
-TEST_F(ExtrudeWindow, TwoBarsOfOneSettingShowIt) {
-  for (const auto& [moved, other] : {std::pair{"HScroll59", "HScroll57"}, {"HScroll57", "HScroll59"}}) {
-    Bar(moved).Drag(Bar(moved).value() + 5);
-    EXPECT_EQ(Bar(other).value(), Bar(moved).value());
-  }
-  EXPECT_EQ(Text("Text59"), "10");
-  Bar("HScroll4").Drag(3);  // the layer's selector once more
-  EXPECT_EQ(Bar("HScroll16").value(), 3);
-  Bar("HScroll36").Drag(2);
-  EXPECT_EQ(app.view->form51.HScroll3.value(), 2);
-}
-
 TEST_F(ExtrudeWindow, AShortProfileIsRaisedToFourPoints) {
   Draw(2);
   app.geometry->form55.Command30.Press();
@@ -93,32 +81,6 @@ TEST_F(ExtrudeWindow, AutoCalcDegDividesTheTurn) {
   EXPECT_EQ(Part().maxpoints, 20);
   Bar("HScroll24").Drag(0);
   EXPECT_EQ(app.model.ProfilePts(0, 0).spinZ, -360);
-}
-
-// Every bar writes the record that its selector names, and shows it again when that record is chosen.
-TEST_F(ExtrudeWindow, EachBarWritesItsOwnSetting) {
-  Bar("HScroll16").Drag(7);
-  Bar("HScroll6").Drag(9);
-  for (const ExtrudeField& field : ExtrudeFields()) {
-    SCOPED_TRACE(field.spec.bar);
-    Bar(field.spec.bar).Drag(3);
-    const double written = std::visit(
-        [&](auto member) -> double {
-          if constexpr (std::is_same_v<decltype(member), double ProfilePointRec::*>) {
-            return app.model.ProfilePts(field.of == FieldOf::Layer ? 7 : 9, 0).*member;
-          } else {
-            return app.model.Profile(0).*member;
-          }
-        },
-        field.field);
-    EXPECT_EQ(written, 3 / field.spec.divisor);
-  }
-  EXPECT_EQ(app.model.ProfilePts(7, 0).addXAmt2, 3);
-  EXPECT_EQ(app.model.ProfilePts(9, 0).addXAmt2, 3);
-  Bar("HScroll16").Drag(8);
-  EXPECT_EQ(Text("Text1"), "1");
-  Bar("HScroll16").Drag(7);
-  EXPECT_EQ(Text("Text1"), "0.03");
 }
 
 TEST_F(ExtrudeWindow, ProgressiveReachesToTheLastLayer) {
@@ -194,16 +156,6 @@ TEST_F(ExtrudeWindow, SeamlessWeldsWithinTwoUnits) {
   EXPECT_EQ(Part().Sections, 2);
   EXPECT_EQ(app.view->form5.HScroll5.max(), 36);
   EXPECT_EQ(app.view->form5.HScroll5.value(), 3);
-}
-
-TEST_F(ExtrudeWindow, NumbersFromAFileEndItQuietly) {
-  Draw(4);
-  app.geometry->form55.Command30.Press();
-  app.model.Profile(0).pathProfileX = 99;
-  app.geometry->form55.Command30.Press();
-  EXPECT_EQ(app.faults.TakeAll().size(), 1u);
-  EXPECT_EQ(Part().maxpoints, 48);
-  EXPECT_EQ(app.automaticActionsHeld, 0);
 }
 
 TEST_F(ExtrudeWindow, ClearSettingsBringsTheDefaultsBack) {

@@ -49,26 +49,6 @@ TEST_F(FileWindows, SaveOpenSaveGivesTheSameBytesAndTheRangesFollow) {
   EXPECT_EQ(BytesOf(folder() / "again.prj"), bytes);
 }
 
-TEST_F(FileWindows, DialogsAskAsTold) {
-  PressItem("openproj");
-  PressItem("saveproj");
-  PressItem("exportinfo");
-  PressItem("exportobjinfo2");
-  app.interchange->form14.Command26.Press();
-  const auto dialogs = platform.TakeDialogs();
-  ASSERT_EQ(dialogs.size(), 5U);
-  EXPECT_EQ(dialogs[0].title, "Open Project (.prj file)");
-  EXPECT_FALSE(dialogs[0].save);
-  EXPECT_EQ(dialogs[1].title, "Save project (.prj file)");
-  EXPECT_EQ(dialogs[1].folder, folder() / "projects");
-  EXPECT_EQ(dialogs[1].filter, "All Files (*.prj)|*.prj");
-  EXPECT_EQ(dialogs[2].title, "Export Obj info --All Part#'s(.txt file)");
-  EXPECT_EQ(dialogs[3].folder, folder() / "objinfo");
-  EXPECT_EQ(dialogs[4].filter, "All Files (*.obj*)|*.obj*");
-  EXPECT_TRUE(app.frame->form31.Text1.text().empty());
-  EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
 TEST_F(FileWindows, ANameWithoutAnEndingGetsOne) {
   SaveTo(folder() / "plain");
   EXPECT_TRUE(std::filesystem::exists(folder() / "plain.prj"));
@@ -139,21 +119,6 @@ TEST_F(FileWindows, ObjExportWritesItsMaterialFileBeside) {
   EXPECT_TRUE(BytesOf(obj.string() + "_materialfile.mtl").starts_with("newmtl material_0\r\n"));
 }
 
-TEST_F(FileWindows, UseGroupsSetsBothKinds) {
-  app.interchange->form14.Check2.Press({});
-  EXPECT_FALSE(app.interchange->form14.Check1.value());
-  app.interchange->form14.Check2.Press({});
-  EXPECT_TRUE(app.interchange->form14.Check1.value() && app.interchange->form14.Check13.value());
-}
-
-TEST_F(FileWindows, AreaEstimateShowsInTheViewOptions) {
-  FaceRec& face = app.model.Faces(0, 1);
-  face.c2X = 3, face.c3Y = 4;
-  app.model.Part(0).maxfaces = 1;
-  PressItem("estarea");
-  EXPECT_EQ(app.view->form51.Label19.caption(), "Sq Units 6");
-}
-
 TEST_F(FileWindows, PlainFilesThroughTheirButtons) {
   MakeCup();
   const std::string path = (folder() / "faces.txt").string();
@@ -169,16 +134,6 @@ TEST_F(FileWindows, PlainFilesThroughTheirButtons) {
   app.frame->form31.Command4.Press();
   EXPECT_EQ(app.model.Part(1).maxfaces, 221);
   EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
-TEST_F(FileWindows, ListsFillTheNameBoxes) {
-  WriteBytes(folder() / "projects" / "a.prj", "x");
-  app.frame->form31.Load();
-  app.frame->form31.File2.Pick(0);
-  EXPECT_EQ(app.frame->form31.Text2.text(), (folder() / "projects" / "a.prj").string());
-  app.frame->form31.Dir2.Pick(0);
-  app.frame->form31.Dir2.DoubleClick();
-  EXPECT_EQ(app.frame->form31.Dir2.folder(), folder());
 }
 
 }  // namespace

@@ -26,25 +26,6 @@ class ProfileFormulasWindow : public AppTest {
   Formulas2Frm& window = app.profiles->formulas2frm;
 };
 
-TEST_F(ProfileFormulasWindow, APressFillsTheProfileChosenHere) {
-  window.HScroll25.Drag(3);
-  EXPECT_EQ(CurrentProfile(app), 3);
-  app.view->form5.Text5.Type("5");
-  app.view->form5.Text3.Type("7");
-  Bar("HScroll27").Drag(20);
-  window.Command6.Press();
-  EXPECT_EQ(app.model.Profile(3).count, 20);
-  EXPECT_EQ(app.view->form51.HScroll6.value(), 20);
-  EXPECT_EQ(app.view->form51.Label17.caption(), "20");
-  EXPECT_NEAR(Point(0, 3).X, 5 + 98.39295886, 1e-3);
-  EXPECT_NEAR(Point(0, 3).Z, 7 + 17.8557, 1e-3);
-  EXPECT_EQ(Point(36, 3).Y, 300);
-  EXPECT_EQ(app.model.Profile(0).count, 0);
-  app.view->form51.HScroll3.SetValue(8);
-  EXPECT_EQ(window.HScroll25.box.text(), "8");
-  EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
 TEST_F(ProfileFormulasWindow, TheTextIsTheParameterAndWordsCountAsZero) {
   EXPECT_EQ(Box("Text11").text(), "10.2857142857143");
   EXPECT_EQ(Box("Text26").text(), ".36");

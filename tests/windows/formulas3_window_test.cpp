@@ -45,44 +45,6 @@ class RangeWindow : public AppTest {
   Formulas3Frm& window = app.profiles->formulas3frm;
 };
 
-TEST_F(RangeWindow, ButtonsTakeTheirTextsAndTheRightOneGoesBack) {
-  At(36, 12).X = 100;
-  window.Command1.Press();
-  EXPECT_EQ(At(36, 12).X, 110);
-  EXPECT_EQ(At(36, 13).X, 0);
-  window.Text1.Type("2.5");
-  window.Command1.Press(MouseButton::Right);
-  EXPECT_EQ(At(36, 12).X, 107.5);
-  window.Command43.Press();
-  EXPECT_EQ(At(36, 12).X, 107.5 * 1.01);
-  window.Command39.Press(MouseButton::Right);
-  EXPECT_EQ(At(36, 12).X, 107.5 * 1.01 * .99);
-  At(0, 0) = {};
-  app.view->form5.Text5.SetText("10");
-  window.Command4.Press();  // the point (0, 0) by 2 degrees about (10, 0)
-  EXPECT_NEAR(At(0, 0).X, 10 - 10 * 0.999390827, 1e-6);
-  EXPECT_NEAR(At(0, 0).Y, 10 * 0.034899497, 1e-6);
-}
-
-TEST_F(RangeWindow, DragsEditTheRange) {
-  DragOn(5, 5, 8, 1);
-  EXPECT_EQ(At(3, 12).X, 3);
-  EXPECT_EQ(At(3, 12).Y, 4);  // up
-  DragOn(5, 5, 8, 1, MouseButton::Right);
-  EXPECT_EQ(At(3, 12).X, 3);
-  EXPECT_EQ(At(3, 12).Z, 4);
-  window.Option3.SetValue(true);
-  DragOn(5, 5, 4, 5);
-  EXPECT_EQ(At(3, 12).X, 3 * .99);
-  EXPECT_EQ(At(3, 12).Y, 4);
-  window.Option1.SetValue(true);
-  window.HScroll12.Drag(20);
-  window.HScroll25.Drag(7);
-  DragOn(0, 0, 1, 0);
-  EXPECT_EQ(At(3, 7).X, 3 * .99 + 1);
-  EXPECT_EQ(At(3, 12).X, 3 * .99);
-}
-
 TEST_F(RangeWindow, GenFacesMakesThePartFromTheCopies) {
   PrepareStack();
   window.Check2.SetValue(true);
@@ -146,17 +108,6 @@ TEST_F(RangeWindow, NothingToBuildMakesNoFaces) {
   EXPECT_EQ(app.model.Part(0).maxpoints, 0);
   EXPECT_EQ(app.model.Part(0).maxfaces, 0);
   EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
-TEST_F(RangeWindow, PickersFollowBothWays) {
-  window.HScroll3.Drag(5);
-  EXPECT_EQ(CurrentProfile(app), 5);
-  app.view->form51.HScroll3.Drag(6);
-  EXPECT_EQ(window.HScroll3.box.text(), "6");
-  window.HScroll14.Drag(1);
-  EXPECT_EQ(CurrentPart(app), 1);
-  app.view->form51.HScroll4.Drag(0);
-  EXPECT_EQ(window.HScroll14.box.text(), "0");
 }
 
 }  // namespace

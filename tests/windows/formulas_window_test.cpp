@@ -44,58 +44,6 @@ class EditProfileWindow : public AppTest {
   Formulas& window = app.profiles->formulas;
 };
 
-TEST_F(EditProfileWindow, TheChosenPointShowsAndTakesWhatIsTyped) {
-  window.HScroll27.Drag(1);
-  EXPECT_EQ(window.Text35.text(), "20");
-  EXPECT_EQ(window.Text37.text(), "20");
-  window.Text36.Type("3.5x");
-  EXPECT_EQ(Point(1), (Vec3{20, 3.5, 20}));
-  window.HScroll25.Drag(2);
-  EXPECT_EQ(app.view->form51.HScroll3.value(), 2);
-  EXPECT_EQ(window.HScroll3.value(), 2);
-  EXPECT_EQ(app.profiles->formulas2frm.HScroll25.value(), 2);
-  EXPECT_EQ(window.Text35.text(), "0");
-}
-
-TEST_F(EditProfileWindow, JoinEndsPutsThePenOnTheFirstPoint) {
-  window.Command7.Press();
-  EXPECT_EQ(Point(3), Point(0));
-  EXPECT_EQ(window.HScroll27.value(), 3);
-  EXPECT_EQ(window.Text35.text(), "10");
-}
-
-TEST_F(EditProfileWindow, EveryControlFollowsAChangedCount) {
-  window.Command10.Press();
-  EXPECT_EQ(app.view->form51.HScroll6.value(), 6);
-  EXPECT_EQ(app.view->form51.Label17.caption(), "6");
-  EXPECT_EQ(window.HScroll27.value(), 6);
-  window.Command17.Press();
-  EXPECT_EQ(app.model.Profile(0).count, 0);
-  EXPECT_EQ(app.view->form51.HScroll6.value(), 0);
-  EXPECT_EQ(Point(2).X, 30);
-}
-
-TEST_F(EditProfileWindow, DragsMoveTurnAndScale) {
-  window.HScroll24.Drag(1);
-  Drag(3, -4);
-  EXPECT_EQ(Point(0), (Vec3{13, 4, 20}));
-  EXPECT_EQ(Point(2), (Vec3{30, 0, 20}));
-  Drag(3, -4, MouseButton::Right);
-  EXPECT_EQ(Point(0), (Vec3{13, 4, 24}));
-  window.Option3.SetValue(true);
-  Drag(-1, 0);
-  EXPECT_DOUBLE_EQ(Point(0).X, 12.87);
-  EXPECT_DOUBLE_EQ(Point(0).Z, 23.76);
-  Drag(1, 0, MouseButton::Right);
-  EXPECT_DOUBLE_EQ(Point(0).X, 12.87);
-  window.Option2.SetValue(true);
-  app.view->form5.Text5.Type("12.87");
-  Drag(0, 9);
-  EXPECT_DOUBLE_EQ(Point(0).X, 12.87);
-  Drag(9, 0);  // one degree about X 12.87: X grows by Z * sin
-  EXPECT_NEAR(Point(0).X, 12.87 + 23.9976 * 0.0174524, 1e-4);
-}
-
 TEST_F(EditProfileWindow, RingsOfAPartComeBackAsProfiles) {
   PressItem("revolve2");
   window.HScroll18.Drag(1);
@@ -135,16 +83,6 @@ TEST_F(EditProfileWindow, OptionsOfAllProfileWindowsGoTogether) {
   app.view->form51.Option1.SetValue(true);
   EXPECT_TRUE(app.profiles->formulas2frm.view.Option6.value());
   EXPECT_EQ(app.view->form36.Label54.caption(), " PROFILE VIEW--Side ");
-}
-
-TEST_F(EditProfileWindow, AnotherProfileShowsTheSamePoint) {
-  app.model.ProfilePts(2, 4).X = 77;
-  app.model.Profile(4).count = 9;
-  window.HScroll27.SetValue(2);
-  window.HScroll25.Drag(4);
-  EXPECT_EQ(window.HScroll27.value(), 2);
-  EXPECT_EQ(window.Text35.text(), "77");
-  EXPECT_EQ(app.view->form51.Label17.caption(), "9");
 }
 
 // What would run away to infinity is a fault, and the profiles stay as they were.

@@ -60,15 +60,6 @@ TEST_F(FreeFaceWindow, RevolvePressesTheTickedCaps) {
   EXPECT_EQ(Corners(257), (Face{1, 38, 75}));
 }
 
-TEST_F(FreeFaceWindow, TheLayerSetsTheStartPoint) {
-  window.HScroll11.Drag(10);
-  window.HScroll3.Drag(4);
-  EXPECT_EQ(window.HScroll1.box.text(), "41");
-  window.HScroll2.Drag(1);
-  window.Command1.Press();
-  EXPECT_EQ(Corners(1), (Face{41, 42, 43}));
-}
-
 TEST_F(FreeFaceWindow, FaceCountGoesOneBelowNone) {
   window.Command3.Press();
   window.Command3.Press();
@@ -105,37 +96,6 @@ TEST_F(FreeFaceWindow, TheRoutedFaceShowsWhatAPartChangeBrought) {
   EXPECT_EQ(window.HScroll18.box.text(), "38");
 }
 
-TEST_F(FreeFaceWindow, CornersAreStoredOneByOne) {
-  MakeCup();
-  window.HScroll12.Drag(3);
-  const Face before = Corners(3);
-  window.HScroll17.Drag(50);
-  EXPECT_EQ(Corners(3), (Face{before[0], 50, before[2]}));
-  EXPECT_EQ(app.model.Faces(0, 3).c2X, app.model.Points(0, 50).X);
-  EXPECT_EQ(app.facetools->editbyface.VScroll1.value(), 50);
-  window.HScroll18.box.Type("60");
-  app.view->form36.Label16.SetCaption("70");
-  window.HScroll16.box.DoubleClick();
-  EXPECT_EQ(Corners(3), (Face{70, 50, 60}));
-  app.view->form36.Label16.SetCaption("0");
-  window.HScroll17.box.DoubleClick();
-  EXPECT_EQ(Corners(3), (Face{70, 50, 60}));
-  window.HScroll19.box.Type("0");
-  EXPECT_EQ(app.model.Faces(0, 3).onoff, 0);
-}
-
-TEST_F(FreeFaceWindow, CommitStoresAndGoesOn) {
-  window.HScroll12.Drag(4);
-  window.HScroll16.box.Type("10");
-  window.HScroll17.box.Type("11");
-  window.HScroll18.box.Type("12");
-  window.Command10.Press();
-  EXPECT_EQ(Corners(4), (Face{10, 11, 12}));
-  EXPECT_EQ(Part().maxfaces, 4);
-  EXPECT_EQ(window.HScroll12.value(), 5);
-  EXPECT_EQ(window.HScroll16.box.text(), "1");
-}
-
 TEST_F(FreeFaceWindow, ProfilesBecomePoints) {
   app.model.PointMark(0, 3) = app.model.Points(0, 3).onoff = 0;
   for (int profile : {2, 5}) {
@@ -153,21 +113,6 @@ TEST_F(FreeFaceWindow, ProfilesBecomePoints) {
   PressItem("importprofiles");
   EXPECT_EQ(Part().maxpoints, 3);
   EXPECT_EQ(app.model.Points(0, 1).X, 50);
-}
-
-TEST_F(FreeFaceWindow, JoinMovesPointsTogether) {
-  MakeCup();
-  app.model.Points(0, 2).X = app.model.Points(0, 1).X + 1;
-  app.model.Points(0, 2).Y = app.model.Points(0, 1).Y;
-  app.geometry->specialeffects1.HScroll3.Drag(5);
-  EXPECT_EQ(app.geometry->specialeffects1.HScroll3.box.text(), "5");
-  PressItem("joinitall");
-  EXPECT_EQ(app.geometry->specialeffects1.HScroll3.value(), 2);
-  EXPECT_EQ(app.model.Points(0, 2).X, app.model.Points(0, 1).X);
-  EXPECT_EQ(app.model.Faces(0, 1).c2X, app.model.Points(0, 1).X);
-  EXPECT_EQ(app.geometry->specialeffects1.ProgressBar1.value(), Part().maxpoints);
-  EXPECT_EQ(Part().maxpoints, 186);
-  EXPECT_GE(Val(app.geometry->specialeffects1.HScroll3.box.text()), 1);
 }
 
 }  // namespace

@@ -59,39 +59,6 @@ TEST_F(PreciseEdit, MovesByTheTextInSteps) {
   EXPECT_EQ(At(1), (Vec3{15, 4, 13}));
 }
 
-TEST_F(PreciseEdit, SetLeavesARingASection) {
-  for (const auto& [width, sections] : {std::pair{0, 1}, {1, 1}, {2, 1}, {5, 4}}) {
-    window.HScroll5.SetValue(width);
-    Press("Command19");
-    EXPECT_EQ(app.model.Part(0).Sections, sections) << width;
-  }
-}
-
-TEST_F(PreciseEdit, TurnsAboutTheOriginEachInItsSense) {
-  Lay(1, 1);
-  SetOriginOfTurns();
-  window.Text19.Type("30");
-  struct Turned {
-    const char* button;
-    Vec3 left, right;
-  };
-  for (const Turned& turned : std::initializer_list<Turned>{
-           {"Command10",
-            {10.83012766620827, 5.562177763734855, 13},
-            {17.83012674962759, 0.5621784184353436, 13}},
-           {"Command9", {19.830126487747393, 4, 9.026280184769686}, {8.830127928088466, 4, 14.0262795300692}},
-           {"Command18",
-            {15, 8.562177370914563, 8.026280315709784},
-            {15, -2.4378211887443637, 15.026279399129102}}}) {
-    Place(1, {15, 4, 13});
-    Press(turned.button);
-    EXPECT_EQ(At(1), turned.left) << turned.button;
-    Place(1, {15, 4, 13});
-    Press(turned.button, kRight);
-    EXPECT_EQ(At(1), turned.right) << turned.button;
-  }
-}
-
 TEST_F(PreciseEdit, ProgressiveTurnsGrowFromLayerToLayer) {
   Lay(9, 2);
   window.Text19.Type("30");
@@ -114,29 +81,6 @@ TEST_F(PreciseEdit, ProgressiveTurnsGrowFromLayerToLayer) {
   const auto faults = app.faults.TakeAll();
   ASSERT_EQ(faults.size(), 1U);
   EXPECT_TRUE(faults[0].starts_with("Form5.Command14: ")) << faults[0];
-}
-
-TEST_F(PreciseEdit, ScalesByTheFactorOfTheButton) {
-  SetOriginOfTurns();
-  window.Text20.Type("2");
-  window.Text10.Type("0.5");
-  struct Scaled {
-    const char* button;
-    Vec3 left;
-  };
-  for (const Scaled& scaled : std::initializer_list<Scaled>{{"Command35", {20, 4, 13}},
-                                                            {"Command38", {15, 11, 13}},
-                                                            {"Command41", {15, 4, 24}},
-                                                            {"Command39", {20, 11, 13}},
-                                                            {"Command15", {15, 11, 24}},
-                                                            {"Command17", {20, 4, 24}},
-                                                            {"Command43", {20, 11, 24}}}) {
-    Lay(1, 1);
-    Press(scaled.button);
-    EXPECT_EQ(At(1), scaled.left) << scaled.button;
-    Press(scaled.button, kRight);
-    EXPECT_EQ(At(1), (Vec3{15, 4, 13})) << scaled.button;
-  }
 }
 
 TEST_F(PreciseEdit, FlipsAndSetsEqual) {
@@ -190,31 +134,6 @@ TEST_F(PreciseEdit, LayersShiftAndChooseTheirPoints) {
   EXPECT_EQ(window.HScroll2.box.text(), "36");
   ExpectRange(141, 10);  // far past the Part: none
   EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
-TEST_F(PreciseEdit, SwitchesFacesAndJoinsLayers) {
-  app.model.Faces(1, 1).onoff = 0;
-  Press("Command12", kRight);
-  EXPECT_EQ(app.model.Faces(0, 1).onoff + app.model.Faces(0, 7700).onoff, 0);
-  app.view->form51.HScroll7.SetValue(2);
-  app.view->form51.HScroll5.SetValue(3);
-  Press("Command16");
-  app.view->form51.HScroll7.SetValue(3);
-  Press("Command16");
-  EXPECT_EQ(app.model.Faces(0, 2).onoff, 1);
-  EXPECT_EQ(app.model.Faces(0, 1).onoff + app.model.Faces(0, 3).onoff + app.model.Faces(0, 4).onoff, 0);
-  Press("Command12");
-  EXPECT_EQ(app.model.Faces(0, 7700).onoff, 1);
-  EXPECT_EQ(app.model.Faces(1, 1).onoff, 0);
-  Lay(4, 2);
-  Place(1, {1, 2, 3});
-  Press("Command1");
-  EXPECT_EQ(At(3), (Vec3{1, 2, 3}));
-  Place(4, {7, 8, 9});
-  Press("Command2");
-  EXPECT_EQ(At(2), (Vec3{7, 8, 9}));
-  Press("Command19");
-  EXPECT_EQ(app.model.Part(0).Sections, 1);
 }
 
 }  // namespace

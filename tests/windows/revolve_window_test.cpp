@@ -36,20 +36,6 @@ TEST_F(RevolveWindow, APressMakesThePartAndOpensTheRanges) {
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
-TEST_F(RevolveWindow, SectionsSetDegreesAndLastPoint) {
-  app.geometry->revolveprof.HScroll10.Drag(35);
-  EXPECT_EQ(app.geometry->revolveprof.HScroll10.box.text(), "35");
-  EXPECT_EQ(app.geometry->revolveprof.HScroll4.box.text(), "10.2857142857143");
-  EXPECT_EQ(app.geometry->revolveprof.HScroll11.value(), 35);
-  app.geometry->revolveprof.HScroll10.Drag(61);
-  EXPECT_EQ(app.geometry->revolveprof.HScroll11.box.text(), "61");
-  EXPECT_EQ(app.model.Part(0).Sections, 61);
-  EXPECT_EQ(app.view->form5.HScroll5.value(), 62);
-  MakeCup();
-  EXPECT_EQ(app.model.Part(0).maxfaces, 62 * 3 * 2 - 1);
-  EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
 TEST_F(RevolveWindow, APointRangeCutByHandMakesNarrowerRings) {
   app.geometry->revolveprof.HScroll11.box.Type("18");
   MakeCup();
@@ -98,32 +84,6 @@ TEST_F(RevolveWindow, PlainRevolveOfTheMenuTakesTheEffectsOff) {
   EXPECT_NEAR(app.model.Points(0, 10).Y, 50, 1e-4);
 }
 
-TEST_F(RevolveWindow, JoinEndsMakesTheRingsMeet) {
-  app.geometry->revolveprof.HScroll4.box.Type("9.5");
-  MakeCup();
-  EXPECT_NE(app.model.Points(0, 37).X, app.model.Points(0, 1).X);
-  PressItem("joinit");
-  EXPECT_EQ(app.model.Points(0, 37).X, app.model.Points(0, 1).X);
-  EXPECT_EQ(app.model.Points(0, 74).Y, app.model.Points(0, 38).Y);
-  EXPECT_EQ(app.model.Faces(0, 71).c2X, app.model.Points(0, 37).X);
-}
-
-TEST_F(RevolveWindow, GeneralFieldsBelongToTheProfile) {
-  app.model.Profile(2).genMultX = 1.234;
-  app.model.Profile(2).genMoveY = 5000;
-  app.view->form51.HScroll3.SetValue(2);
-  EXPECT_EQ(app.geometry->revolveprof.HScroll37.value(), 123);
-  EXPECT_EQ(app.geometry->revolveprof.HScroll37.box.text(), "1.234");
-  EXPECT_EQ(app.geometry->revolveprof.HScroll32.value(), 1200);
-  EXPECT_EQ(app.model.Profile(2).genMultX, 1.234);  // shown, not written back
-  app.geometry->revolveprof.HScroll37.Drag(150);
-  EXPECT_EQ(app.model.Profile(2).genMultX, 1.5);
-  app.geometry->form55.HScroll24.Drag(20);  // writes 19; the bar must not fall back to it
-  app.geometry->revolveprof.HScroll31.Drag(7);
-  EXPECT_EQ(app.geometry->form55.HScroll24.value(), 20);
-  EXPECT_EQ(dynamic_cast<ScrollBar&>(*app.geometry->form55.Find("HScroll37")).value(), 7);
-}
-
 // What an extrude set is no limit of the person's.
 TEST_F(RevolveWindow, LayersLimitOfAnExtrudeIsNotKept) {
   MakeCup();
@@ -151,13 +111,6 @@ TEST_F(RevolveWindow, FaultsEndThePressQuietly) {
   app.geometry->revolveprof.HScroll46.box.Type("1");
   PressItem("revolve2");
   EXPECT_EQ(app.model.Part(0).maxfaces, 221);
-}
-
-TEST_F(RevolveWindow, AnEmptyProfileMakesNoFaces) {
-  PressItem("revolve2");
-  EXPECT_EQ(app.model.Part(0).maxfaces, 0);
-  EXPECT_EQ(FaceRangeStart(app), 1);
-  EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
 }  // namespace

@@ -32,33 +32,12 @@ TEST_F(Start, OpensOnTheProfileViewAtOneUnitAPixel) {
   EXPECT_EQ(app.shadedPose.RotX, 245);
 }
 
-TEST_F(Start, LimitsOfTheSharedControls) {
-  EXPECT_EQ(app.view->form5.HScroll2.value(), 36);  // 62 before its limit came down
-  EXPECT_EQ(app.view->form5.HScroll5.max(), 36);
-  EXPECT_EQ(app.view->form5.HScroll25.max(), 7700);
-  EXPECT_EQ(app.view->form5.HScroll25.value(), 0);
-  EXPECT_EQ(app.view->form5.HScroll25.box.text(), "0");
-  EXPECT_EQ(app.view->form5.HScroll20.value(), 1);
-  EXPECT_EQ(app.view->form51.HScroll5.value(), 7700);
-}
-
 TEST_F(Start, EachRunBeginsWithTheSameColours) {
   App other(platform, folder());
   other.Start();
   for (int group = 0; group <= kMaxGroup; ++group) {
     EXPECT_EQ(other.model.MaterialGroups(group).KdG, app.model.MaterialGroups(group).KdG);
   }
-}
-
-TEST_F(Start, ItemsWithoutTheirWindowAreDisabled) {
-  for (const char* name : {"mterials", "opentex", "builtins", "savetex"}) {
-    EXPECT_FALSE(app.frame->mdiForm1.Find(name)->enabled()) << name;
-  }
-  for (const char* name : {"rev", "rev1", "extrudeme", "importprofiles", "formulait", "openproj", "memsave",
-                           "joinit", "exiter", "aboutit", "estarea"}) {
-    EXPECT_TRUE(app.frame->mdiForm1.Find(name)->enabled()) << name;
-  }
-  EXPECT_FALSE(app.Deliver({"MDIForm1", "mterials"}));
 }
 
 TEST_F(Start, EveryMenuItemHasItsHeadAndEveryButtonItsItem) {
@@ -74,26 +53,11 @@ TEST_F(Start, EveryMenuItemHasItsHeadAndEveryButtonItsItem) {
   }
 }
 
-TEST_F(Start, ViewKeysOfTheButtonRowDoWhatTheMenuDoes) {
-  app.Deliver({"Form36", "Command23"});
-  EXPECT_EQ(app.view->form36.Label54.caption(), " FRONT VIEW");
-  PressItem("sideview");
-  EXPECT_EQ(app.view->form36.Label54.caption(), " SIDE VIEW ");
-  EXPECT_FALSE(app.view->form51.Option2.value());
-}
-
 TEST_F(Start, AToolWindowDisarmsTheMouse) {
   app.view->form36.Option7.SetValue(true);
   PressItem("formulait");
   EXPECT_FALSE(app.view->form36.Option7.value());
   EXPECT_TRUE(app.FindWindow("Formulas")->visible());
-}
-
-TEST_F(Start, ExitHidesAllWithoutAQuestion) {
-  PressItem("exiter");
-  EXPECT_TRUE(app.exitRequested);
-  for (const Window* window : app.windows()) EXPECT_FALSE(window->visible()) << window->name();
-  EXPECT_TRUE(platform.TakeMessages().empty());
 }
 
 }  // namespace

@@ -65,19 +65,6 @@ TEST_F(TypedBoxes, ANumberTooLargeIsNone) {
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
-TEST_F(TypedBoxes, BoxesOfOneAmount) {
-  Type("Form51.Text1", "9");
-  EXPECT_EQ(app.view->form51.HScroll2.value(), 9);
-  MakeCup();
-  Type("Form5.Text41", "2.5");
-  EXPECT_EQ(app.view->form5.HScroll10.value(), 2);
-  const double before = app.model.Points(0, 1).X;
-  Press("specialeffects5", "Command15");
-  EXPECT_EQ(app.model.Points(0, 1).X, before + 2.5);
-  Press("Form5", "Command53");
-  EXPECT_EQ(app.model.Points(0, 1).X, before + 5);
-}
-
 // A range typed far past its bar's ends is held to them before anything loops over it.
 TEST_F(TypedBoxes, RangesOfTheRevolveAreHeld) {
   ClickAt(368, -398);

@@ -56,21 +56,6 @@ class ViewMouseTest : public AppTest {
   }
 };
 
-TEST_F(ViewMouseTest, MoveTakesATenthOfTheWay) {
-  app.view->form36.Option7.Press({});
-  Drag(100, -100, 120, -130);
-  EXPECT_EQ(PointAt(1), (Vec3{112, 44, 22}));
-  EXPECT_EQ(PointAt(4), (Vec3{7, 8, 9}));  // not marked
-  Drag(100, -100, 120, -130, MouseButton::Right);
-  EXPECT_EQ(PointAt(2), (Vec3{-38, 2, 57}));
-  Drag(100, -100, 120, -130, MouseButton::Left, true);
-  app.view->form51.Check4.SetValue(false);
-  Drag(100, -100, 120, -130);
-  EXPECT_EQ(PointAt(3), (Vec3{2, -6, -3}));
-  Mouse(UserAction::MouseMove, 500, -500);  // no button held
-  EXPECT_EQ(PointAt(3), (Vec3{2, -6, -3}));
-}
-
 TEST_F(ViewMouseTest, ThePositionIsKeptInWholeUnits) {
   app.view->form36.Option7.Press({});
   Drag(100.5F, -99.5F, 101, -100);  // held as 100, -100
@@ -78,34 +63,6 @@ TEST_F(ViewMouseTest, ThePositionIsKeptInWholeUnits) {
   Drag(0, 0, 90000, 0);
   Drag(90000, 0, 32767, 0);  // stops at 16 bits
   EXPECT_EQ(PointAt(3).X, 0.1 + 9000);
-}
-
-TEST_F(ViewMouseTest, RotateTurnsAboutTheOrigin) {
-  SetOrigin(app, {10, -3, 2});
-  app.view->form36.Option8.Press({});
-  Drag(100, -100, 190, -130);
-  EXPECT_EQ(PointAt(1), (Vec3{111.8975232670984, 46.71635912381677, 8.721487000866826}));
-  PlacePoint(1, {110, 47, 22});
-  Drag(100, -100, 190, -130, MouseButton::Right);
-  EXPECT_EQ(PointAt(1), (Vec3{116.59055654629731, 30.74097294315323, 22}));
-}
-
-TEST_F(ViewMouseTest, ScaleGoesByTheSignOfTheDrag) {
-  app.view->form36.Option9.Press({});
-  Drag(100, -100, 101, -100);
-  EXPECT_EQ(PointAt(1), (Vec3{110 * 1.01, 47, 22}));
-  Drag(100, -100, 100, -300);
-  EXPECT_EQ(PointAt(1), (Vec3{110 * 1.01, 47 * 0.99, 22 * 0.99}));
-}
-
-TEST_F(ViewMouseTest, MoveOriginWritesItsTexts) {
-  app.view->form5.Text5.SetText("3.5x");
-  app.view->form5.Text3.SetText("none");
-  app.view->form36.Option11.Press({});
-  Drag(100, -100, 103, -90, MouseButton::Right);
-  EXPECT_EQ(app.view->form5.Text5.text(), "3.8");
-  EXPECT_EQ(app.view->form5.Text9.text(), "1");
-  EXPECT_EQ(app.view->form5.Text3.text(), "1");
 }
 
 TEST_F(ViewMouseTest, TheTriViewWorksInThePictureUnderTheMouse) {
@@ -242,19 +199,6 @@ TEST_F(ViewMouseTest, MovePointMovesTheNearestLayer) {
   EXPECT_EQ(app.model.ProfilePts(5, 0).X, -100);
   EXPECT_EQ(app.view->form36.Label16.caption(), "0");
   EXPECT_EQ(app.model.Profile(0).count, 2);  // nothing is drawn
-}
-
-TEST_F(ViewMouseTest, KeysArmTheModes) {
-  const auto key = [&](const char* text) { app.Deliver({"Form36", "Picture1", UserAction::Key, 0, text}); };
-  key("m");
-  EXPECT_TRUE(app.view->form36.Option7.value());
-  key("m");
-  EXPECT_TRUE(app.view->form36.Option11.value());
-  key("p");
-  EXPECT_TRUE(app.view->form36.Option10.value());
-  EXPECT_FALSE(app.view->form36.Option11.value());
-  key("p");
-  EXPECT_FALSE(ArmedTool(app) != Tool::None);
 }
 
 TEST_F(ViewMouseTest, AFaultLetsGoOfTheDrag) {

@@ -47,13 +47,6 @@ TEST_F(ViewWindow, SubViewsDrawInTheirPlane) {
   EXPECT_EQ(app.model.Profile(0).count, 1);
 }
 
-TEST_F(ViewWindow, SetToZeroStartsTheProfileOver) {
-  ClickAt(388, -408);
-  app.view->form51.Command17.Press();
-  EXPECT_EQ(app.model.Profile(0).count, 0);
-  EXPECT_EQ(app.view->form51.Label17.caption(), "0");
-}
-
 TEST_F(ViewWindow, LiveLabelsFollowTheMouse) {
   ClickAt(318, -318);
   Mouse(UserAction::MouseMove, 321, -314);
@@ -91,61 +84,6 @@ TEST_F(ViewWindow, ResizeKeepsUnitsPerPixelAndTheCorner) {
   EXPECT_EQ(app.view->form36.HScroll1.value(), 318);
   app.Deliver({"Form36", "Picture1", UserAction::Resize, 0, "", {}, 0, 0, 0, 5});
   EXPECT_EQ(picture.PixelHeight(), 1274);
-}
-
-TEST_F(ViewWindow, ProfileChoiceShowsItsCountAndWritesNothing) {
-  app.model.Profile(7).count = 12;
-  ClickAt(388, -408);
-  app.view->form51.HScroll3.SetValue(7);
-  EXPECT_EQ(app.view->form51.HScroll6.value(), 12);
-  EXPECT_EQ(app.view->form51.Label17.caption(), "12");
-  app.view->form51.HScroll3.SetValue(0);
-  EXPECT_EQ(app.model.Profile(7).count, 12);
-  EXPECT_EQ(app.model.Profile(0).count, 1);
-  EXPECT_EQ(app.view->form51.HScroll6.value(), 1);
-}
-
-TEST_F(ViewWindow, PartChoiceOpensTheRanges) {
-  app.model.Part(1).maxpoints = 9000;
-  app.model.Part(1).maxfaces = 50;
-  app.model.Part(1).Sections = 60;
-  app.view->form51.HScroll4.SetValue(1);
-  EXPECT_EQ(PointRangeStart(app), 1);
-  EXPECT_EQ(PointRangeEnd(app), 9000);
-  EXPECT_EQ(app.view->form5.HScroll25.box.text(), "9000");
-  EXPECT_EQ(FaceRangeEnd(app), 50);
-  EXPECT_EQ(app.view->form5.HScroll11.value(), 1);
-  EXPECT_EQ(app.view->form5.HScroll5.value(), 61);
-  EXPECT_EQ(app.view->form51.Label3.caption(), "50faces  points 9000");
-  app.view->form5.HScroll11.SetValue(0);
-  EXPECT_EQ(CurrentPart(app), 0);
-  EXPECT_EQ(FaceRangeEnd(app), 0);
-  EXPECT_EQ(FaceRangeStart(app), 1);
-  EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
-TEST_F(ViewWindow, OriginIsReadByLeadingNumbers) {
-  app.view->form5.Text5.SetText("3.5x");
-  app.view->form5.Text9.SetText("no");
-  EXPECT_EQ(Origin(app), (Vec3{3.5, 0, 0}));
-}
-
-TEST_F(ViewWindow, CalculatorAndItsZero) {
-  app.view->form51.Command5.Press();
-  EXPECT_EQ(app.view->form51.Label24.caption(), "10");
-  app.view->form51.Text9.SetText("0");
-  app.view->form51.Command5.Press();
-  EXPECT_EQ(app.view->form51.Label24.caption(), "10");
-  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
-  app.view->form51.Text5.SetText("0.3");
-  app.view->form51.Command3.Press();
-  EXPECT_EQ(app.view->form51.Label21.caption(), "0.03");
-}
-
-TEST_F(ViewWindow, ShadedScaleFollowsBothBars) {
-  EXPECT_EQ(app.view->form51.Label33.caption(), ".0007");
-  app.view->form51.HScroll13.SetValue(25);
-  EXPECT_EQ(app.view->form51.Label33.caption(), "0.0025");
 }
 
 TEST_F(ViewWindow, FacesStayBehindWithCheck6) {
