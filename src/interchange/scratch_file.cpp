@@ -49,6 +49,7 @@ std::string ThroughScratchFile(const ScratchPlaces& places, const FileWriter& wr
   try {
     PutThrough(places.own, sink.text());
   } catch (const Fault&) {
+    if (places.temporary.empty()) throw;
     const RemovedAtTheEnd removed(places.temporary);
     PutThrough(places.temporary, sink.text());
   }

@@ -79,16 +79,15 @@ void ChangeParts(App& app, const MenuCommand& command, const Control& pressed) {
 }
 
 // The one button of the row that repeats no menu item.
-const MenuCommand kCollapse = {"",
-                               "",
-                               "",
-                               CommandKind::Change,
-                               "",
-                               CollapseIntoCurrent,
-                               "",
-                               "both Parts become the current one, rounded to 3 decimals, without faces that "
-                               "are off and in one group; the "
-                               "other Part is erased, and the current profile loses its points"};
+const MenuCommand kCollapse = {
+    .menu = "",
+    .caption = "Collapse into part#",
+    .name = "collapse",
+    .kind = CommandKind::Change,
+    .run = CollapseIntoCurrent,
+    .toolTip =
+        "both Parts become the current one, rounded to 3 decimals, without faces that are off and in "
+        "one group; the other Part is erased, and the current profile loses its points"};
 
 const MenuCommand* CommandOf(const CommandButton& button) {
   return button.menuItem.empty() ? &kCollapse : FindMenuCommand(button.menuItem);
