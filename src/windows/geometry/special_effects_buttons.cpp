@@ -15,8 +15,10 @@ namespace {
 
 // Titles of frames.
 constexpr std::string_view kFlatten = "Flatten Effect   Uses Origin point for effect", kRoughen = "Roughen",
-                           kShake = "Rings", kBulge = "Bulge", kConform = "Conform", kMold = "Mold Part",
-                           kGrays = "Graylevel Max Min Range ", kHeights = "Z range",
+                           kShake = "Rings", kBulge = "Bulge",
+                           kBox = "Max Dist               X              Y            Z",
+                           kConform = "Conform", kMold = "Mold Part", kGrays = "Graylevel Max Min Range ",
+                           kHeights = "Z range",
                            kLayers = "Choose Obj Points range By Layer:", kPick = "Pick pts -- on or off",
                            kCutoff = "Angular cutoff",
                            kNearest = "Copy current part# XYZ 's to  points based on dist",
@@ -93,11 +95,11 @@ std::span<const SpecialEffects1::EffectButton> SpecialEffects1::EffectButtons() 
        [](W& w, bool r) { w.BulgePoints(E::Multiply, Reach::Radius, w.Factor(r)); }, {}, kTakesSides},
       {kBulge, "Command32", "exp", kExpTip,
        [](W& w, bool r) { w.BulgePoints(E::Power, Reach::Radius, w.Factor(r)); }, {}, kTakesSides},
-      {kBulge, "Command19", "Bulge", kAddTip,
+      {kBox, "Command19", "Bulge", kAddTip,
        [](W& w, bool r) { w.BulgePoints(E::Add, Reach::Box, r ? -1 : 1); }, {}, kTakesSides},
-      {kBulge, "Command23", "Bulge", kMultTip,
+      {kBox, "Command23", "Bulge", kMultTip,
        [](W& w, bool r) { w.BulgePoints(E::Multiply, Reach::Box, w.Factor(r)); }, {}, kTakesSides},
-      {kBulge, "Command45", "=", kSnapTip, [](W& w, bool) { w.BulgePoints(E::Snap, Reach::Box, 0); }},
+      {kBox, "Command45", "=", kSnapTip, [](W& w, bool) { w.BulgePoints(E::Snap, Reach::Box, 0); }},
 
       {kConform, "Command29", "Conform X", kConformXTip, [](W& w, bool r) { w.Conform(true, false, r); }, {},
        kTakesSides},
@@ -179,12 +181,11 @@ std::vector<LayoutItem> SpecialEffects1::DeformingFrames() {
       EffectFrame(kFlatten),
       EffectFrame(kRoughen, {BarRow(HScroll17), BarRow(HScroll18), BarRow(HScroll19)}),
       EffectFrame(kShake, {Labelled("Rnd Amnt", Text5), Labelled("Rnd seed value", Text16)}),
-      EffectFrame(
-          kBulge,
-          {Frame("Profiles Start/ End", {BarRow(HScroll13), BarRow(HScroll14)}), BarRow(HScroll28),
-           Frame("Max Dist               X              Y            Z",
-                 {Row({Single(Text31), Single(Text32), Single(Text33)})}),
-           Row({Flow({&Check1, &Check2, &Check3}), Labelled("lower", Text29), Labelled("upper", Text30)})}),
+      Frame(std::string(kBulge),
+            {Frame("Profiles Start/ End", {BarRow(HScroll13), BarRow(HScroll14)}),
+             Row({Flow({&Check1, &Check2, &Check3}), Labelled("lower", Text29), Labelled("upper", Text30)}),
+             BarRow(HScroll28), ButtonsOf(kBulge),
+             EffectFrame(kBox, {Row({Single(Text31), Single(Text32), Single(Text33)})})}),
       Frame("Organic Distortion",
             {Single(Check8), BarRow(HScroll12), Flow({&Option1, &Option2, &Option3, &Option4})}),
   };
@@ -204,8 +205,8 @@ std::vector<LayoutItem> SpecialEffects1::ConformingFrames() {
 std::vector<LayoutItem> SpecialEffects1::WeldingFrames() {
   return {
       Frame("Combine points", {BarRow(HScroll3), Flow({&Command10})}),
-      EffectFrame(kConjoin, {Single(Label8)}),
-      Single(ProgressBar1),
+      EffectFrame(kConjoin),
+      Row({Stretching(Single(ProgressBar1)), Single(Label8)}),
       EffectFrame(kJoinEnds),
       EffectFrame(kPick, {BarRow(HScroll11)}),
       EffectFrame(kCutoff, {BarRow(HScroll9)}),
