@@ -1,8 +1,12 @@
 // Face Info and Unfold, as a person uses them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
+
 #include "app_fixture.h"
 #include "base/numbers.h"
+#include "platform/picture_files.h"
 #include "support/model_text.h"
 #include "windows/facetools/editbyface_face_info.h"
 #include "windows/facetools/facetools_windows.h"
@@ -150,6 +154,52 @@ TEST_F(FaceWindows, AStripIsUnfoldedPairByPair) {
   app.Deliver({"unfold", "Command24", UserAction::Press, 0, {}, {MouseButton::Right, {}}});
   EXPECT_EQ(app.model.Faces(0, 6).onoff, 1);
   EXPECT_EQ(app.model.Faces(0, 7).onoff + app.model.Faces(0, 8).onoff, 0);
+}
+
+// A rectangle of 60 x 40 units at 2 mm each, drawn by another program at ten pixels a millimetre.
+TEST_F(FaceWindows, APatternIsTrueToScaleOnPaper) {
+  PutPoints(app.model, 0, 1, {{0, 0, 10}, {60, 0, 10}, {0, 40, 10}, {60, 0, 10}, {60, 40, 10}, {0, 40, 10}});
+  for (int f = 1; f <= 2; ++f) {
+    app.model.Faces(0, f) = {.corner1pt = 3 * f - 2, .corner2pt = 3 * f - 1, .corner3pt = 3 * f};
+  }
+  app.model.Part(0).maxpoints = 6, app.model.Part(0).maxfaces = 2;
+  FollowCounts(app);
+  PressItem("unfoldme");
+  Type("unfold.Text7", "2");
+  const std::filesystem::path folder = this->folder() / "patterns";
+  platform.QueueAnswer((folder / "plate").string());
+  unfold.Command26.Press();
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);  // no such folder
+  std::filesystem::create_directory(folder);
+  platform.QueueAnswer((folder / "plate").string());
+  unfold.Command26.Press();
+  ASSERT_TRUE(app.faults.TakeAll().empty());
+
+  const std::string drawn = (this->folder() / "plate.png").string();
+  const std::string command =
+      "rsvg-convert -d 254 -p 254 -b white -o '" + drawn + "' '" + (folder / "plate.svg").string() + "'";
+  ASSERT_EQ(std::system(command.c_str()), 0) << command;
+  Picture paper(1, 1);
+  LoadPicture(paper, drawn);
+  EXPECT_EQ(paper.PixelWidth(), 2100);
+  EXPECT_EQ(paper.PixelHeight(), 2970);
+  int left = 9999, right = 0, top = 9999, bottom = 0;
+  for (int y = 0; y < paper.PixelHeight(); ++y) {
+    for (int x = 0; x < paper.PixelWidth(); ++x) {
+      if (GrayLevel(paper.PixelAt(x, y)) > 100) continue;
+      left = std::min(left, x), right = std::max(right, x), top = std::min(top, y),
+      bottom = std::max(bottom, y);
+    }
+  }
+  EXPECT_NEAR(right - left, 1200, 4);  // the line is three pixels wide
+  EXPECT_NEAR(bottom - top, 800, 4);
+  EXPECT_NEAR(left + right, 2100, 2);
+
+  Drag("unfold.VScroll1", 20);  // nothing lies there
+  platform.QueueAnswer((folder / "plate").string());
+  unfold.Command26.Press();
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+  EXPECT_GT(std::filesystem::file_size(folder / "plate.svg"), 500U);
 }
 
 }  // namespace

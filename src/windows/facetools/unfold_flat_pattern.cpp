@@ -2,6 +2,7 @@
 #include "windows/facetools/unfold_flat_pattern.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -9,9 +10,11 @@
 #include "facetools/switch_faces.h"
 #include "facetools/unfold.h"
 #include "geometry/edit_chosen_points.h"
+#include "interchange/svg_pattern.h"
 #include "windows/geometry/geometry_windows.h"
 #include "windows/geometry/specialeffects5_edit_geometry.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/file_names.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/form36_view.h"
 #include "windows/view/form51_view_options.h"
@@ -35,6 +38,9 @@ Unfold::Unfold(App& app) : ToolWindow(app, "unfold", "Unfold") {
   BindOrigin();
   BindMoves();
   BindSwitches();
+  List1.SetItems({"A4", "A3", "Letter", "fit"});
+  List1.SetIndex(0);
+  OnFile(Command26, [this] { Command26_Click(); });
   SetLayout(DeclareLayout());
 }
 
@@ -242,6 +248,35 @@ void Unfold::TurnChosenPoints(Axis p, Axis q, double degrees) {
   TurnPoints(app_.model, Chosen(app_), {p, q, degrees * kRadiansPerDegree}, Origin(app_));
 }
 
+PatternSettings Unfold::ReadPatternSettings() const {
+  PatternSettings s;
+  s.part = CurrentPart(app_);
+  s.firstFace = HScroll2.value();
+  s.lastFace = HScroll1.value();
+  s.elevation = VScroll1.Shown();
+  s.mmPerUnit = Text7.Number();
+  if (Check3.value()) s.tabWidth = Text8.Number();
+  s.faceNumbers = Check4.value();
+  return s;
+}
+
+// What cannot become a pattern is told before a name is asked for.
+void Unfold::Command26_Click() {
+  const FlatPattern pattern = MakeFlatPattern(app_.model, ReadPatternSettings());
+  const PatternPages pages = LayOutPages(pattern, static_cast<PatternPaper>(std::max(0, List1.index())));
+  const auto name =
+      AskFileName(app_, {true, "Save pattern as SVG", "patterns", "SVG drawing (*.svg)|*.svg", "*.svg"});
+  if (name.empty()) return;
+  for (int page = 0; page < pages.count(); ++page) {
+    std::filesystem::path file = name;
+    if (pages.count() > 1) {
+      file.replace_filename(name.stem().string() + "-" + std::to_string(page + 1) +
+                            name.extension().string());
+    }
+    SaveFile(app_, file, [&](TextWriter& out) { WriteSvgPage(pattern, pages, page, out); });
+  }
+}
+
 // One narrow column, in the order of the work.
 LayoutItem Unfold::DeclareLayout() {
   return Column({
@@ -256,6 +291,8 @@ LayoutItem Unfold::DeclareLayout() {
                      Flow({&Command18, &Command19, &Command20, &Command17, &Command21, &Command22})}),
       Frame("Range", {BarRow(HScroll2), BarRow(HScroll1)}),
       Row({Frame("Face on/off", {Flow({&Command24})}), Frame("Range on/off", {Flow({&Command25})})}),
+      Frame("Pattern", {Row({Labelled("mm per unit", Text7), Single(List1)}),
+                        Row({Single(Check3), Single(Text8), Single(Check4)}), Flow({&Command26})}),
   });
 }
 

@@ -4,6 +4,7 @@
 
 #include "controls/boxed_bar.h"
 #include "controls/buttons.h"
+#include "controls/lists.h"
 #include "controls/text_box.h"
 #include "core/axes.h"
 #include "core/model_store.h"
@@ -13,6 +14,7 @@ namespace pelorium {
 
 class App;
 struct LaidPair;
+struct PatternSettings;
 
 class Unfold : public ToolWindow {
  public:
@@ -71,6 +73,14 @@ class Unfold : public ToolWindow {
   PushButton Command24{*this, "Command24", "ON/OFF", "left button on, right button off"};
   PushButton Command25{*this, "Command25", "ON/OFF", "left button on, right button off"};
 
+  PushButton Command26{*this, "Command26", "Save pattern as SVG",
+                       "saves the faces of the range that are on and lie at Z Elev, true to scale"};
+  TextBox Text7{*this, "Text7", "1", "millimetres on paper of one unit of the model"};
+  ListBox List1{*this, "List1", "the paper; what is larger goes over several pages"};
+  CheckBox Check3{*this, "Check3", "Glue tabs, mm", false, "adds tabs to the edges that are glued"};
+  TextBox Text8{*this, "Text8", "5", "width of the tabs in millimetres"};
+  CheckBox Check4{*this, "Check4", "Face numbers", false, "writes the number of each face"};
+
  private:
   static constexpr const char* kMoveTip = "moves the chosen points by the amount, right button back";
 
@@ -92,6 +102,8 @@ class Unfold : public ToolWindow {
   void Command8_Click();
   void TurnChosenPoints(Axis p, Axis q, double degrees);
   void FinishStep();
+  PatternSettings ReadPatternSettings() const;
+  void Command26_Click();
   LayoutItem DeclareLayout();
 };
 
