@@ -16,6 +16,7 @@ run_packages=(
 test_packages=(
   libgtest-dev libbenchmark-dev
   xvfb xauth                                   # the screen that the desktop tests look at
+  librsvg2-bin                                 # draws the patterns, to measure them
   locales                                      # the source of a locale with a decimal comma
 )
 

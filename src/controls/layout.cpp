@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "controls/control.h"
+#include "controls/buttons.h"
 
 namespace pelorium {
 
@@ -13,6 +13,10 @@ LayoutItem Row(std::vector<LayoutItem> items) { return {LayoutKind::Row, {}, {},
 
 LayoutItem Frame(std::string title, std::vector<LayoutItem> items, std::string toolTip) {
   return {LayoutKind::Frame, std::move(title), {}, std::move(items), false, std::move(toolTip)};
+}
+
+LayoutItem Frame(FrameBox& box, std::vector<LayoutItem> items) {
+  return {LayoutKind::Frame, box.caption(), {&box}, std::move(items)};
 }
 
 LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes) {

@@ -8,6 +8,7 @@
 namespace pelorium {
 
 class Control;
+class FrameBox;
 class Window;
 
 enum class LayoutKind {
@@ -32,6 +33,8 @@ struct LayoutItem {
 LayoutItem Column(std::vector<LayoutItem> items);
 LayoutItem Row(std::vector<LayoutItem> items);
 LayoutItem Frame(std::string title, std::vector<LayoutItem> items, std::string toolTip = {});
+// The same around a box that can be clicked on.
+LayoutItem Frame(FrameBox& box, std::vector<LayoutItem> items);
 // A bar, what it is for (its caption), and none, one or several boxes or labels that show its value.
 LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes = {});
 LayoutItem Flow(std::initializer_list<Control*> controls);

@@ -51,7 +51,7 @@ class Window {
 
   void SetCaption(std::string caption);
   // Lists of files show what is there now.
-  void Show();
+  virtual void Show();
   void Hide();
   // A person closes the window.
   virtual void Close() { Hide(); }

@@ -67,6 +67,17 @@ void Picture::LineBetween(Pixel from, Pixel to) { Record({from, to, foreColour, 
 
 void Picture::DotAt(Pixel at, Colour colour) { Record({at, at, colour, StoredWidth(), true}); }
 
+void Picture::Text(Pixel at, std::string_view text, Colour colour, TextSize size) {
+  for (const char letter : text) {
+    if (IsContinuation(letter)) continue;
+    for (const InkRun& run : InkOf(letter, size)) {
+      const Pixel from = {at.x + run.left, at.y + run.row};
+      Record({from, {from.x + run.count, from.y}, colour, 1, false});
+    }
+    at.x += CellOf(size).width;
+  }
+}
+
 std::int16_t Picture::StoredWidth() const {
   return static_cast<std::int16_t>(std::clamp<int>(drawWidth, 1, std::numeric_limits<std::int16_t>::max()));
 }

@@ -4,10 +4,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "base/colour.h"
+#include "graphics/bitmap_font.h"
 #include "graphics/rasteriser.h"
 
 namespace pelorium {
@@ -33,7 +35,8 @@ class PixelSource {
 // An image that lies on the ground of a picture, under everything drawn. Left and top in pixels.
 struct Backdrop {
   int width = 0, height = 0;
-  std::shared_ptr<const std::vector<std::uint32_t>> pixels;  // row by row from the top; shared when it only moves
+  std::shared_ptr<const std::vector<std::uint32_t>>
+      pixels;  // row by row from the top; shared when it only moves
   int left = 0, top = 0;
 };
 
@@ -83,6 +86,10 @@ class Picture {
   void LineBetween(Pixel from, Pixel to);
   void DotAt(Pixel at) { DotAt(at, foreColour); }
   void DotAt(Pixel at, Colour colour);
+
+  // One line of text whose top left corner is that pixel, upright whatever the scale; what reaches over the
+  // edges is cut off.
+  void Text(Pixel at, std::string_view text, Colour colour, TextSize size = TextSize::Small);
 
   // The pixel under a point in user units, and the point (in user units) that a pixel stands for.
   Pixel ToPixel(float x, float y) const;

@@ -212,5 +212,43 @@ TEST(Picture, SetPixelsCopiesAsManyAsItHolds) {
   EXPECT_EQ(picture.Pixels(), (std::vector<std::uint32_t>{kInk, 3}));
 }
 
+TEST(Picture, TextStandsUprightAtItsPixelAndIsCutAtTheEdges) {
+  Picture picture(11, 9);
+  picture.SetScale(1, -1);
+  picture.drawWidth = 4;
+  picture.Text({1, 0}, "gé", kInk);  // the second letter is unknown and two bytes long
+  EXPECT_EQ(Shown(picture), (Rows{
+                                "......."
+                                "####",
+                                "......."
+                                "#...",
+                                ".."
+                                "####."
+                                "#...",
+                                ".#...#."
+                                "#...",
+                                ".#...#."
+                                "#...",
+                                ".#...#."
+                                "#...",
+                                ".."
+                                "####."
+                                "####",
+                                ".....#.....",
+                                ".."
+                                "###......",
+                            }));
+  EXPECT_EQ(TextWidth("gé", TextSize::Small), 12);
+}
+
+// A slanted stroke at double size has its steps rounded.
+TEST(Picture, LargeTextIsTwiceAsLarge) {
+  Picture picture(10, 14);
+  picture.Text({0, 0}, "/", kInk, TextSize::Large);
+  EXPECT_EQ(Shown(picture)[3], ".......###");
+  EXPECT_EQ(Shown(picture)[4], "......###.");
+  EXPECT_EQ(Shown(picture)[13], "##........");
+}
+
 }  // namespace
 }  // namespace pelorium

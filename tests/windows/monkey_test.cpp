@@ -50,8 +50,8 @@ class Monkey : public AppTest, public testing::WithParamInterface<int> {
 
   const Control& AnyControl() {
     static const std::vector<std::string> kBusy = {
-        "Form36", "Form5",    "specialeffects5", "Form51",       "revolveprof",
-        "Form55", "freeface", "Formulas",        "Formulas2frm", "Formulas3frm"};
+        "Form36",   "Form5",    "specialeffects5", "Form51",       "revolveprof", "Form55",
+        "freeface", "Formulas", "Formulas2frm",    "Formulas3frm", "editbyface",  "unfold"};
     const auto windows = app.windows();
     const Window* window = Below(4) == 0 ? OneOf(windows) : app.FindWindow(OneOf(kBusy));
     return *OneOf(window->controls());
@@ -112,7 +112,7 @@ class Monkey : public AppTest, public testing::WithParamInterface<int> {
       ASSERT_TRUE(p.maxfaces >= -1 && p.maxfaces <= kMaxFaces) << "step " << step;
       ASSERT_TRUE(p.maxpoints >= 0 && p.maxpoints <= kMaxPoints) << "step " << step;
       for (const FaceRec& f : FaceRange(app.model, part, 1, p.maxfaces)) {
-        ASSERT_TRUE(f.corner1pt >= 1 && f.corner2pt >= 1 && f.corner3pt >= 1 && f.corner1pt <= kMaxPoints &&
+        ASSERT_TRUE(f.corner1pt >= 0 && f.corner2pt >= 0 && f.corner3pt >= 0 && f.corner1pt <= kMaxPoints &&
                     f.corner2pt <= kMaxPoints && f.corner3pt <= kMaxPoints && f.group >= 0 &&
                     f.group <= kMaxGroup)
             << "step " << step;

@@ -3,12 +3,13 @@
 
 #include "windows/facetools/editbyface_face_info.h"
 #include "windows/facetools/freeface_free_faces.h"
+#include "windows/facetools/unfold_flat_pattern.h"
 #include "windows/shell/app_shell.h"
 
 namespace pelorium {
 
 FacetoolWindows::FacetoolWindows(App& app)
-    : editbyface(app.Add<EditByFace>()), freeface(app.Add<FreeFace>()) {
+    : editbyface(app.Add<EditByFace>()), freeface(app.Add<FreeFace>()), unfold(app.Add<Unfold>()) {
   app.links.chosenPoint = [this] { return editbyface.VScroll1.value(); };
   app.links.chosenFace = [this] { return editbyface.VScroll2.value(); };
   app.links.chooseFace = [this](int face) {

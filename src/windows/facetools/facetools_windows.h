@@ -10,6 +10,7 @@ struct FacetoolWindows {
 
   class EditByFace& editbyface;
   class FreeFace& freeface;
+  class Unfold& unfold;
 };
 
 }  // namespace pelorium

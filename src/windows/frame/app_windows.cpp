@@ -15,10 +15,10 @@ namespace {
 // The program's order of windows, whatever the order of building: of lists, of Exit, and of the hooks behind
 // their first. A window that is not named stands before the last.
 const std::vector<const char*> kOrder = {
-    "frmSplash",    "MDIForm1",     "Form51",          "Form5",           "Formulas",
-    "Formulas2frm", "Formulas3frm", "frmsaveprof",     "editbyface",      "revolveprof",
-    "Form55",       "freeface",     "specialeffects1", "specialeffects5", "specialeffects6",
-    "Form31",       "Form14",       "helpme",          "frmAbout",        "Form36",
+    "frmSplash",    "MDIForm1",        "Form51",          "Form5",           "Formulas", "Formulas2frm",
+    "Formulas3frm", "frmsaveprof",     "editbyface",      "revolveprof",     "Form55",   "freeface",
+    "unfold",       "specialeffects1", "specialeffects5", "specialeffects6", "Form31",   "Form14",
+    "helpme",       "frmAbout",        "Form36",
 };
 
 }  // namespace
@@ -30,6 +30,10 @@ void BuildWindows(App& app) {
   app.facetools = std::make_shared<FacetoolWindows>(app);
   app.interchange = std::make_shared<InterchangeWindows>(app);
   app.frame = std::make_shared<FrameWindows>(app);
+  app.links.pressMenuItem = [&app](std::string_view name) {
+    Control* item = app.frame->mdiForm1.Find(name);
+    if (item != nullptr && item->enabled()) item->Press({});
+  };
   app.links.start = [&app] { app.frame->mdiForm1.Load(); };
   app.SetOrder(kOrder);
 }

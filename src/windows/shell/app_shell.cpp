@@ -98,6 +98,7 @@ void App::EndEvent(bool hadFault) {
   links.drawNow();
   drawingFaults.TakeAll();
   drawingFaultsOfEvent_.clear();
+  ++eventsEnded;
 }
 
 void App::Keep(std::unique_ptr<Window> window, ToolWindow* toolWindow) {

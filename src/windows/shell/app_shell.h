@@ -2,6 +2,7 @@
 // does.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -51,9 +52,11 @@ class App {
   // Those that take part in the hooks, in the program's order.
   const std::vector<ToolWindow*>& toolWindows() const { return toolWindows_; }
 
-  // An event is over: what the picture of the model is to show is drawn; after a fault in any case, from what was left.
-  // Deliver, Start and each command of a script end with it.
+  // An event is over: what the picture of the model is to show is drawn; after a fault in any case, from what
+  // was left. Deliver, Start and each command of a script end with it.
   void EndEvent(bool hadFault = false);
+  // Counts the events that are over.
+  std::uint64_t eventsEnded = 0;
   // For tests: RefreshViews draws within its call. The pixels at the end of every event are the same.
   bool drawsAtOnce = false;
 

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "base/numbers.h"
+#include "platform/picture_files.h"
 #include "windows/shell/app_shell.h"
 
 namespace pelorium {
@@ -49,6 +50,12 @@ void ExportFile(App& app, const std::filesystem::path& name, const FileWriter& w
   const std::filesystem::path file = FileNamed(app, name);
   WriteFile(file, write);
   TellWritten(app, file, what);
+}
+
+void SavePictureFile(App& app, const std::filesystem::path& name, const Picture& picture) {
+  const std::filesystem::path file = FileNamed(app, name);
+  SavePicture(picture, file);
+  TellWritten(app, file, "saved");
 }
 
 void OpenFile(App& app, const std::filesystem::path& name,

@@ -30,6 +30,9 @@ void SaveFile(App& app, const std::filesystem::path& name, const FileWriter& wri
 void ExportFile(App& app, const std::filesystem::path& name, const FileWriter& write,
                 const std::string& what = "exported");
 
+// The same for a picture, which replaces the old one when it is complete; the name's ending says the format.
+void SavePictureFile(App& app, const std::filesystem::path& name, const Picture& picture);
+
 // Reading a file and telling of it: the notice says what `read` made of its bytes, as "opened 2 Parts, 408
 // points". A fault within goes on to the caller's trap, and the notice then says that the file was opened in
 // part.

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <string_view>
 
 #include "core/model_store.h"
 #include "views/view_settings.h"
@@ -21,6 +22,8 @@ struct PickShapeSettings {
 struct RoomLinks {
   // frame
   std::function<void()> start;  // the load of the main frame
+  // Presses an item of the menu bar, as a person would; one that is not ready does nothing.
+  std::function<void(std::string_view name)> pressMenuItem;
 
   // view
   std::function<void()> refreshViews, markStale, drawNow, syncFaceCorners;

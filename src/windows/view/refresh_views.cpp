@@ -22,6 +22,7 @@ void Refresh(App& app) {
   Trapped(app.faults, "RefreshViews", [&app] {
     Form36& view = app.view->form36;
     view.ShowTotals();
+    view.mouse.DropOldPreview();
     if (IsShadedChosen(app)) return view.Command16.Press();
     const ViewSettings settings = GatherViewSettings(app);
     if (settings.mode != ViewMode::None) view.Label54.SetCaption(std::string(ViewCaption(settings)));

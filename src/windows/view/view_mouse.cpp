@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "base/numbers.h"
 #include "geometry/choose_points.h"
@@ -286,12 +287,24 @@ void ViewMouse::Refreshed() {
   ShowOverlay();
 }
 
+void ViewMouse::ShowPreview(std::vector<OverlayShape> lines) {
+  preview_ = std::move(lines);
+  previewEvent_ = app_.eventsEnded;
+  ShowOverlay();
+}
+
+void ViewMouse::DropOldPreview() {
+  if (preview_.empty() || previewEvent_ == app_.eventsEnded) return;
+  preview_.clear();
+  ShowOverlay();
+}
+
 void ViewMouse::ShowOverlay() {
   Form36& view = app_.view->form36;
   Shape& shape = view.Shape5;
   if (ArmedTool(app_) != Tool::PickPoints || !app_.view->form51.Check17.value()) shape.SetVisible(false);
   auto& overlay = view.Picture1.overlay();
-  overlay.clear();
+  overlay = preview_;
   if (nextLine_) overlay.push_back(*nextLine_);
   if (shape.visible()) {
     overlay.push_back(

@@ -1,8 +1,10 @@
 // The mouse on the picture of the model: what a press and a drag do in each mode.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "controls/picture_box.h"
 #include "views/pick_points.h"
@@ -36,6 +38,11 @@ class ViewMouse {
 
   // Shows the shapes that lie over the picture as they are now; the line to the mouse goes.
   void Refreshed();
+
+  // Shows lines over the picture until a later event refreshes the views.
+  void ShowPreview(std::vector<OverlayShape> lines);
+  // Called by each refresh.
+  void DropOldPreview();
 
   // Pushes the points under the mouse, once there is something that does.
   std::function<void(const BrushTouch&)> onBrush;
@@ -71,6 +78,8 @@ class ViewMouse {
   float cornerX_ = 0, cornerY_ = 0;               // of the rectangle that is drawn
   std::optional<int> layer_;                      // that is moved
   std::optional<OverlayShape> nextLine_;
+  std::vector<OverlayShape> preview_;
+  std::uint64_t previewEvent_ = 0;  // that showed it
 };
 
 }  // namespace pelorium
