@@ -75,7 +75,7 @@ class SpecialEffects6 : public ToolWindow {
                       {0, 1, 0, 1, 1},
                       "Grid",
                       "left: the grid makes its own faces, right: it presses Tesselate"};
-  Label Label16{*this, "Label16", "Tesselate "};
+  Label Label16{*this, "Label16", "Tesselate ", "what Grid does with the bar to the right"};
   BoxedBar HScroll37{
       *this, {"HScroll37", "Text41", {3, 1200, 3}, "Total Points", "points that the next Tesselate takes"}};
   BoxedBar HScroll38{
@@ -129,17 +129,17 @@ class SpecialEffects6 : public ToolWindow {
   BoxedBar HScroll24{*this, {"HScroll24", "Text26", kWaveRange, "Curve", kCurveTip}, Typing::IsTheValue};
   ScrollBar HScroll27{*this, "HScroll27", kProfileRange, "Profile #",
                       "its additive Z amount 1 at the row times its Z at the column is added to the height"};
-  Label Label27{*this, "Label27", "0"};
+  Label Label27{*this, "Label27", "0", kNumberTip};
   ScrollBar HScroll30{*this, "HScroll30", kProfileRange, "Profile #",
                       "its additive Z amount 2 at the column times its Z at the row is added to the height"};
-  Label Label30{*this, "Label30", "0"};
+  Label Label30{*this, "Label30", "0", kNumberTip};
   ScrollBar HScroll32{*this, "HScroll32", kProfileRange, "Profile #",
                       "its Z at the row times Mult Amnt is added to the height"};
-  Label Label32{*this, "Label32", "0"};
+  Label Label32{*this, "Label32", "0", kNumberTip};
   TextBox Text37{*this, "Text37", "0", "factor of the profile's Z at the row"};
   ScrollBar HScroll34{*this, "HScroll34", kProfileRange, "Profile #",
                       "its Z at the column times Mult Amnt is added to the height"};
-  Label Label34{*this, "Label34", "0"};
+  Label Label34{*this, "Label34", "0", kNumberTip};
   TextBox Text35{*this, "Text35", "0", "factor of the profile's Z at the column"};
   CheckBox Check3{*this, "Check3", "Auto Create", false, "any change of the grid's settings makes it anew"};
   PushButton Command3{*this, "Command3", "Grid", "makes the Part a grid of points with faces between them"};
@@ -149,6 +149,7 @@ class SpecialEffects6 : public ToolWindow {
   static constexpr BarRange kWaveRange = {-100, 100, 0};
   static constexpr BarRange kProfileRange = {0, kMaxProfile, 0, 1, 5};
   static constexpr const char* kProfilesTip = "Create tesselated shape based on a range of profiles";
+  static constexpr const char* kNumberTip = "the profile's number";
   static constexpr const char* kAmplitudeTip = "units of the wave up and down";
   static constexpr const char* kTiltTip = "units that each next one rises";
   static constexpr const char* kCurveTip = "units times the square of the number";
