@@ -50,8 +50,8 @@ class Monkey : public AppTest, public testing::WithParamInterface<int> {
 
   const Control& AnyControl() {
     static const std::vector<std::string> kBusy = {
-        "Form36",   "Form5",    "specialeffects5", "Form51",       "revolveprof", "Form55",
-        "freeface", "Formulas", "Formulas2frm",    "Formulas3frm", "editbyface",  "unfold"};
+        "Form36",   "Form5",    "specialeffects1", "specialeffects5", "Form51",     "revolveprof", "Form55",
+        "freeface", "Formulas", "Formulas2frm",    "Formulas3frm",    "editbyface", "unfold"};
     const auto windows = app.windows();
     const Window* window = Below(4) == 0 ? OneOf(windows) : app.FindWindow(OneOf(kBusy));
     return *OneOf(window->controls());
