@@ -16,8 +16,8 @@ namespace {
 
 constexpr double kSamePlace = 0.01;  // units
 // By how much of its length an unfolded edge may miss its neighbour: two sweeps of 0.1 degree and the rounded
-// turns.
-constexpr double kUnfoldingGrain = 0.004;
+// turns. Long edges are given no more than `kMostGrain` units.
+constexpr double kUnfoldingGrain = 0.004, kMostGrain = 1;
 constexpr double kFlatFold = 0.001;  // planes that differ by less are one
 constexpr double kTextHeight = 3, kTextOfEdge = 0.3, kTextOfFace = 0.5;
 constexpr int kCorners = 3;
@@ -101,7 +101,7 @@ std::vector<PlacedEdge> EdgesOf(const std::vector<Piece>& pieces, Places Piece::
   for (std::size_t p = 0; p < pieces.size(); ++p) {
     const Places& at = pieces[p].*places;
     for (std::size_t i = 0; i < kCorners; ++i) {
-      edges.push_back({at[i], at[(i + 1) % kCorners], static_cast<int>(p)});
+      edges.push_back({at[i], at[(i + 1) % kCorners], static_cast<int>(p), kSamePlace});
     }
   }
   for (PlacedEdge& edge : edges) {
@@ -115,10 +115,13 @@ class PatternMaker {
   PatternMaker(const ModelStore& model, const PatternSettings& settings)
       : settings_(settings), pieces_(CollectPieces(model, settings)) {
     flat_ = EdgesOf(pieces_.all, &Piece::flat);
-    shared_ = MatchEdges(flat_, kSamePlace);
+    MatchEdges(flat_, shared_);
     if (!pieces_.areFolded) return;
-    glued_ = MatchEdges(EdgesOf(pieces_.all, &Piece::folded), kSamePlace);
-    ShareWithinGrain();
+    MatchEdges(EdgesOf(pieces_.all, &Piece::folded), glued_);
+    for (PlacedEdge& edge : flat_) {
+      edge.tolerance += std::min(kUnfoldingGrain * Length(Minus(edge.to, edge.from)), kMostGrain);
+    }
+    MatchEdges(flat_, shared_);
   }
 
   FlatPattern Make() {
@@ -140,24 +143,6 @@ class PatternMaker {
   const Piece& PieceOf(int edge) const { return pieces_.all[At(flat_[At(edge)].owner)]; }
   PatternPlace OnPaper(const Vec3& place) const {
     return {place.X * settings_.mmPerUnit, place.Y * settings_.mmPerUnit};
-  }
-
-  // Faces that were neighbours and lie nearly edge on edge.
-  void ShareWithinGrain() {
-    for (int edge = 0; edge < static_cast<int>(flat_.size()); ++edge) {
-      const int other = glued_[At(edge)];
-      if (other <= edge) continue;
-      const int mine = flat_[At(edge)].owner * kCorners, theirs = flat_[At(other)].owner * kCorners;
-      for (int i = 0; i < kCorners * kCorners; ++i) ShareIfNear(mine + i / kCorners, theirs + i % kCorners);
-    }
-  }
-
-  void ShareIfNear(int edge, int other) {
-    if (shared_[At(edge)] != kNoMatch || shared_[At(other)] != kNoMatch) return;
-    const PlacedEdge &e = flat_[At(edge)], &f = flat_[At(other)];
-    if (!AreOneEdge(e, f, kSamePlace + kUnfoldingGrain * Length(Minus(e.to, e.from)))) return;
-    shared_[At(edge)] = other;
-    shared_[At(other)] = edge;
   }
 
   // On which side of each face's plane the other one lay, seen from the printed side.
@@ -245,7 +230,7 @@ class PatternMaker {
   const PatternSettings& settings_;
   Pieces pieces_;
   std::vector<PlacedEdge> flat_;
-  std::vector<int> shared_, glued_;  // the edge that lies on this one; that lay on it
+  EdgeMatches shared_, glued_;  // the edge that lies on this one; that lay on it
   std::optional<TakenRoom> room_;
   std::vector<bool> hasTab_;
   int gluedEdges_ = 0;

@@ -96,7 +96,7 @@ TEST_F(FlatPatterns, TheSpineOfABookIsMountainOrValleyOrNeither) {
   EXPECT_EQ(Texts(), "");
 }
 
-// Neighbours may miss each other by a little more than others, and get numbers where they lie apart.
+// What was unfolded may miss its neighbour by a little more, and gets numbers where it lies apart.
 TEST_F(FlatPatterns, EdgesApart) {
   PutBook(-6, 0.03);
   EXPECT_EQ(Lines(), "4 cut 1 mountain ");

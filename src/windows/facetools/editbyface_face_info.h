@@ -31,8 +31,9 @@ class EditByFace : public ToolWindow {
   FrameBox Frame2{*this, "Frame2", "Vertex info --Double Click to Choose Current Pt",
                   "double click: the point last picked in the view"};
   ScrollBar VScroll1{*this, "VScroll1", {0, 28800, 1}, "Point", "the point whose numbers show"};
-  Label Label4{*this, "Label4", "1"};
-  Label PointHeader{*this, "PointHeader", "X                     Y                    Z        on/off"};
+  Label Label4{*this, "Label4", "1", "number of the point"};
+  Label PointHeader{*this, "PointHeader", "X                     Y                    Z        on/off",
+                    "where the point lies; typing stores all four"};
   TextBox Text1{*this, "Text1", "1", "x location"};
   TextBox Text2{*this, "Text2", "1", "y location"};
   TextBox Text3{*this, "Text3", "1", "z location"};
@@ -45,17 +46,19 @@ class EditByFace : public ToolWindow {
 
   FrameBox Frame3{*this, "Frame3", "Face Info", "double click: limits and counts as the Part has them"};
   ScrollBar VScroll2{*this, "VScroll2", {1, 70, 1}, "Face ", "the face whose numbers show"};
-  Label Label3{*this, "Label3", "1"};
+  Label Label3{*this, "Label3", "1", "number of the face"};
   CheckBox Check1{*this, "Check1", "This Face's Points only", false,
                   "choosing a face chooses its three points and no others"};
   CheckBox Check2{*this, "Check2", "Auto Flat", false, "choosing a face flattens it"};
-  Label FaceHeader{*this, "FaceHeader", "1                   2                3       On/Off"};
+  Label FaceHeader{*this, "FaceHeader", "1                   2                3       On/Off",
+                   "points of the corners; typing stores all four"};
   TextBox Text5{*this, "Text5", "1", kCornerTip};
   TextBox Text6{*this, "Text6", "1", kCornerTip};
   TextBox Text7{*this, "Text7", "1", kCornerTip};
   TextBox Text8{*this, "Text8", "1", "1 = the face is on, 0 = off"};
-  Label Corner1{*this, "Corner1", "Corner1 XYZ"}, Corner2{*this, "Corner2", "Corner2 XYZ"},
-      Corner3{*this, "Corner3", "Corner3 XYZ"};
+  Label Corner1{*this, "Corner1", "Corner1 XYZ", kPlacesTip},
+      Corner2{*this, "Corner2", "Corner2 XYZ", kPlacesTip},
+      Corner3{*this, "Corner3", "Corner3 XYZ", kPlacesTip};
   TextBox Text11{*this, "Text11", "0", "x location of corner 1"};
   TextBox Text12{*this, "Text12", "0", "y location of corner 1"};
   TextBox Text13{*this, "Text13", "0", "z location of corner 1"};
@@ -103,6 +106,7 @@ class EditByFace : public ToolWindow {
  private:
   static constexpr int kPictureSide = 200;  // pixels
   static constexpr const char* kMoveTip = "moves the point by the amount, right button back";
+  static constexpr const char* kPlacesTip = "where the corners lie; typing stores all nine numbers";
   static constexpr const char* kCornerTip =
       "number of the corner's point; double click: the point last picked in the view";
 
