@@ -29,9 +29,9 @@ struct ControlHost {
 enum class WindowRole {
   Frame,    // around all others, with the menu bar
   Splash,   // before the frame
-  Page,     // the picture that is worked on, in the middle
+  Page,     // what is worked on or read at length, in the middle
   Options,  // beside the page, always at hand
-  Tool,
+  Tool,     // a panel beside the page
 };
 
 // All windows live as long as the program; they are shown and hidden.
@@ -74,11 +74,14 @@ class Window {
   WindowRole role() const { return role_; }
   // The control that a person's closing of the window presses, if there is one.
   const Control* closingControl() const { return closingControl_; }
+  // The menu in which a face lists the open windows, if there is one.
+  const Control* windowsMenu() const { return windowsMenu_; }
 
  protected:
   void SetLayout(LayoutItem layout) { layout_ = std::move(layout); }
   void SetRole(WindowRole role) { role_ = role; }
   void SetClosingControl(const Control* control) { closingControl_ = control; }
+  void SetWindowsMenu(const Control* menu) { windowsMenu_ = menu; }
 
  private:
   void NotifyChanged();
@@ -86,6 +89,7 @@ class Window {
   ControlHost& host_;
   WindowRole role_ = WindowRole::Tool;
   const Control* closingControl_ = nullptr;
+  const Control* windowsMenu_ = nullptr;
   std::string name_, caption_;
   bool visible_ = false;
   int shows_ = 0;

@@ -33,6 +33,8 @@ constexpr PaletteEntry kPalette[] = {
     {QPalette::ToolTipText, 0xFF16181A, 0xFF16181A},
 };
 
+constexpr int kMenuHeadSaving = 6;  // pixels
+
 // Alt alone leads into the menu bar, whose heads carry no letters of their own.
 class PeloriumStyle : public QProxyStyle {
  public:
@@ -41,6 +43,13 @@ class PeloriumStyle : public QProxyStyle {
                 QStyleHintReturn* result) const override {
     if (hint == SH_MenuBar_AltKeyNavigation) return 1;
     return QProxyStyle::styleHint(hint, option, widget, result);
+  }
+  // Captions carry bars and blanks of their own: the heads need less room around them, so that all of them
+  // stand side by side on a small screen.
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override {
+    const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+    return type == CT_MenuBarItem ? whole - QSize(kMenuHeadSaving, 0) : whole;
   }
   // A head that the keyboard stands on looks like one that is open; the style beneath shows no difference.
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -78,7 +78,7 @@ QWidget* LayoutBuilder::Build(const Window& window, QWidget* parent) {
   const LayoutItem& layout = window.layout();
   const bool isDeclared = !layout.items.empty() || !layout.controls.empty();
   auto* around = WithoutMargins(new QVBoxLayout(content));
-  around->setContentsMargins(8, 8, 8, 8);
+  around->setContentsMargins(6, 6, 6, 6);
   around->addWidget(isDeclared ? Make(layout, content) : MakeFlow(window.controls(), content));
   return content;
 }
@@ -103,7 +103,7 @@ QWidget* LayoutBuilder::Make(const LayoutItem& item, QWidget* parent) {
 // One grid for the whole column, so that bars and boxes align though other things stand between them.
 QWidget* LayoutBuilder::MakeColumn(const std::vector<LayoutItem>& items, QWidget* column) {
   auto* grid = WithoutMargins(new QGridLayout(column));
-  if (qobject_cast<QGroupBox*>(column) != nullptr) grid->setContentsMargins(8, 6, 8, 8);
+  if (qobject_cast<QGroupBox*>(column) != nullptr) grid->setContentsMargins(6, 6, 6, 6);
   const int columns = ColumnsOf(items);
   grid->setColumnStretch(kBarColumn, 1);
   int row = 0;

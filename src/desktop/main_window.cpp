@@ -5,16 +5,15 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
-#include <algorithm>
 #include <utility>
 
 #include "controls/user_event.h"
 #include "desktop/dispatcher.h"
+#include "desktop/panel_area.h"
 #include "desktop/qt_text.h"
 #include "desktop/window_view.h"
 
@@ -23,23 +22,13 @@ namespace pelorium {
 namespace {
 
 constexpr QSize kComfortableFrame(1360, 900);
-constexpr int kCascadeSteps = 6;
-constexpr int kCascadeStep = 28;  // pixels: a title bar's height, so that each title stays in sight
-
-// What a subwindow's title and edges add to its content.
-QSize FrameAround(const QMdiSubWindow& sub) {
-  const QMargins edges = sub.contentsMargins();
-  return {edges.left() + edges.right(), edges.top() + edges.bottom()};
-}
+constexpr int kNumberedWindows = 9;
 
 }  // namespace
 
 MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher)
-    : frame_(frame), dispatcher_(dispatcher), notice_(*new QLabel(this)), area_(*new QMdiArea(this)) {
+    : frame_(frame), dispatcher_(dispatcher), notice_(*new QLabel(this)), area_(*new PanelArea(this)) {
   setObjectName(ToQt(frame.name()));
-  area_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_.setBackground(palette().color(QPalette::Dark));
   setCentralWidget(&area_);
   for (Control* control : frame.controls()) {
     if (control->kind() != ControlKind::MenuItem) continue;
@@ -102,77 +91,33 @@ void MainWindow::SyncFrame() {
 }
 
 void MainWindow::Sync(WindowView& view) {
-  if (view.IsModal()) return;
-  if (view.window().visible()) {
-    Show(view);
-  } else if (view.subWindow() != nullptr && view.subWindow()->isVisible()) {
-    view.subWindow()->hide();
+  const bool isShownAnew = view.TakeShow();
+  if (view.IsModal() || !view.window().visible()) {
+    area_.Shut(view);
+  } else {
+    if (isShownAnew || !area_.Holds(view)) area_.Open(view);
+    area_.Rename(view);
   }
+  ListWindows();
 }
 
-void MainWindow::Show(WindowView& view) {
-  const bool isNew = view.subWindow() == nullptr;
-  QMdiSubWindow& sub = view.AsSubWindow(*area_.viewport());
-  sub.setWindowTitle(ToQt(view.window().caption()));
-  if (isNew) {
-    area_.addSubWindow(&sub, sub.windowFlags());
-    PlaceFirst(view);
-  }
-  if (!view.TakeShow() && sub.isVisible()) return;
-  sub.show();
-  sub.raise();
-  area_.setActiveSubWindow(&sub);
-}
+void MainWindow::PutWindowsInOrder() { area_.PutInOrder(); }
 
-// Tool windows open over the options, down the left side, so that the picture they work on stays in sight.
-void MainWindow::PlaceFirst(WindowView& view) {
-  if (view.window().role() == WindowRole::Options) {
-    options_ = &view;
-    optionsGiven_ = view.subWindow()->geometry();
-    FillArea();
-    return;
+// The windows' menu ends with those that are open.
+void MainWindow::ListWindows() {
+  const auto found = menu_.find(frame_.windowsMenu());
+  if (found == menu_.end()) return;
+  QMenu& menu = *found->second->menu();
+  for (QAction* action : std::exchange(windowActions_, {})) delete action;
+  windowActions_.push_back(menu.addSeparator());
+  int number = 0;
+  for (WindowView* view : area_.open()) {
+    QAction* action =
+        menu.addAction(ToQt(view->window().caption()), this, [this, view] { area_.Open(*view); });
+    action->setToolTip("brings it to the front");
+    if (++number <= kNumberedWindows) action->setShortcut(QKeySequence(Qt::CTRL | (Qt::Key_0 + number)));
+    windowActions_.push_back(action);
   }
-  if (view.window().role() == WindowRole::Page) {
-    viewWindow_ = &view;
-    viewGiven_ = view.subWindow()->geometry();
-    FillArea();
-    return;
-  }
-  const int shift = (1 + cascaded_++ % kCascadeSteps) * kCascadeStep;
-  const QSize room = Room().size();
-  QMdiSubWindow& sub = *view.subWindow();
-  const QSize around = FrameAround(sub);
-  const QSize size = view.ComfortableSize(QSize(room.width() * 2 / 3, room.height()) - around) + around;
-  sub.setGeometry(QRect(QPoint(shift, std::min(shift, room.height() - size.height())), size));
-}
-
-bool MainWindow::MayBePlaced(const WindowView* view, const QRect& lastGiven) const {
-  return view != nullptr && view->subWindow() != nullptr && view->subWindow()->geometry() == lastGiven;
-}
-
-void MainWindow::FillArea() {
-  const QRect room = Room();
-  int left = 0;
-  if (MayBePlaced(options_, optionsGiven_)) {
-    QMdiSubWindow& sub = *options_->subWindow();
-    const QSize around = FrameAround(sub);
-    const int comfortable = (options_->ComfortableSize(room.size() - around) + around).width();
-    sub.setGeometry(0, 0, std::min(comfortable, room.width() * 45 / 100), room.height());
-    optionsGiven_ = sub.geometry();
-  }
-  if (options_ != nullptr) left = std::min(optionsGiven_.right() + 1, room.width() / 2);
-  if (MayBePlaced(viewWindow_, viewGiven_)) {
-    viewWindow_->subWindow()->setGeometry(left, 0, room.width() - left, room.height());
-    viewGiven_ = viewWindow_->subWindow()->geometry();
-  }
-}
-
-QRect MainWindow::Room() const { return QRect(QPoint(0, 0), area_.maximumViewportSize()); }
-
-void MainWindow::resizeEvent(QResizeEvent* event) {
-  QMainWindow::resizeEvent(event);
-  layout()->activate();
-  FillArea();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -17,10 +17,12 @@ class QtPlatform : public Platform {
   // opens.
   std::function<void(const std::function<void()>& dialog)> runDialog;
   std::function<void(Window&)> runModal;
+  std::function<void()> arrangeWindows;
 
   std::string AskFileName(const FileDialogRequest& request) override;
   void ShowMessage(const std::string& text) override;
   void RunModal(Window& window) override;
+  void ArrangeWindows() override { arrangeWindows(); }
   void SetClipboardText(const std::string& text) override;
   std::string ClipboardText() override;
   void SetClipboardPicture(const Picture& picture) override;

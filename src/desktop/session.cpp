@@ -15,6 +15,7 @@ Session::Session(Journal journal, const std::filesystem::path& applicationPath)
     face_.Refresh();
     dispatcher_.RunNested(dialog);
   };
+  platform_.arrangeWindows = [this] { face_.frame().PutWindowsInOrder(); };
   platform_.runModal = [this](Window& window) { face_.RunModal(window); };
 }
 

@@ -1,4 +1,4 @@
-// Shows one window of the program.
+// The widgets of one window.
 #include "desktop/window_view.h"
 
 #include <QCloseEvent>
@@ -14,26 +14,6 @@
 namespace pelorium {
 
 namespace {
-
-// Closing is the program's to do: it hears of it and hides the window.
-class SubWindow : public QMdiSubWindow {
- public:
-  SubWindow(WindowView& view, QWidget& parent)
-      : QMdiSubWindow(&parent, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-        view_(view) {
-    setAttribute(Qt::WA_DeleteOnClose, false);
-  }
-
- protected:
-  void closeEvent(QCloseEvent* event) override {
-    event->ignore();
-    view_.TellClosed();
-  }
-
- private:
-  WindowView& view_;
-};
 
 class ModalDialog : public QDialog {
  public:
@@ -61,6 +41,7 @@ WindowView::WindowView(Window& window, LayoutBuilder& builder, Dispatcher& dispa
 QScrollArea& WindowView::Content() {
   if (content_ == nullptr) {
     content_ = new QScrollArea;
+    content_->setObjectName(ToQt(window_.name()));
     content_->setFrameShape(QFrame::NoFrame);
     content_->setWidgetResizable(true);
     content_->setFocusPolicy(Qt::NoFocus);
@@ -69,22 +50,9 @@ QScrollArea& WindowView::Content() {
   return *content_;
 }
 
-QMdiSubWindow& WindowView::AsSubWindow(QWidget& parent) {
-  if (subWindow_ == nullptr) {
-    subWindow_ = new SubWindow(*this, parent);
-    subWindow_->setObjectName(ToQt(window_.name()));
-  }
-  if (subWindow_->widget() == nullptr) subWindow_->setWidget(&Content());
-  return *subWindow_;
-}
-
 QDialog& WindowView::AsDialog(QWidget* parent) {
-  if (dialog_ == nullptr) {
-    dialog_ = new ModalDialog(*this, parent);
-    dialog_->setObjectName(ToQt(window_.name()));
-  }
+  if (dialog_ == nullptr) dialog_ = new ModalDialog(*this, parent);
   if (Content().parent() != dialog_) {
-    if (subWindow_ != nullptr) subWindow_->setWidget(nullptr);
     dialog_->layout()->addWidget(&Content());
     Content().show();
   }

@@ -1,8 +1,7 @@
-// Shows one window of the program: inside the frame, or on its own while it is modal.
+// The widgets of one window of the program, wherever the frame shows them, or on their own while it is modal.
 #pragma once
 
 #include <QDialog>
-#include <QMdiSubWindow>
 #include <QScrollArea>
 
 #include "controls/window.h"
@@ -20,11 +19,9 @@ class WindowView {
 
   Window& window() const { return window_; }
 
-  // The widgets are built when they are first asked for.
-  QMdiSubWindow& AsSubWindow(QWidget& parent);
+  // Built when they are first asked for; they belong to whatever shows them.
+  QScrollArea& Content();
   QDialog& AsDialog(QWidget* parent);
-  // The subwindow, or nullptr when the window was never shown in the frame.
-  QMdiSubWindow* subWindow() const { return subWindow_; }
   bool IsModal() const { return isModal_; }
   void SetModal(bool isModal) { isModal_ = isModal; }
 
@@ -35,13 +32,10 @@ class WindowView {
   void TellClosed();
 
  private:
-  QScrollArea& Content();
-
   Window& window_;
   LayoutBuilder& builder_;
   Dispatcher& dispatcher_;
-  QScrollArea* content_ = nullptr;  // belongs to whatever shows it
-  QMdiSubWindow* subWindow_ = nullptr;
+  QScrollArea* content_ = nullptr;
   QDialog* dialog_ = nullptr;
   bool isModal_ = false;
   int showsSeen_ = 0;

@@ -1,4 +1,5 @@
-// The platform with no screen: answers wait in a queue, and what would have been shown is kept for the asking.
+// The platform with no screen: answers wait in a queue, and what would have been shown is kept for the
+// asking.
 #pragma once
 
 #include <deque>
@@ -13,8 +14,8 @@ namespace pelorium {
 
 class HeadlessPlatform : public Platform {
  public:
-  // The answers to the next file dialogs, first come first served; an empty one is a cancel. A dialog with no answer
-  // waiting is cancelled.
+  // The answers to the next file dialogs, first come first served; an empty one is a cancel. A dialog with no
+  // answer waiting is cancelled.
   void QueueAnswer(std::string fileName) { answers_.push_back(std::move(fileName)); }
 
   // What was shown since the last asking.
@@ -27,6 +28,7 @@ class HeadlessPlatform : public Platform {
   std::string AskFileName(const FileDialogRequest& request) override;
   void ShowMessage(const std::string& text) override { messages_.push_back(text); }
   void RunModal(Window& window) override;
+  void ArrangeWindows() override {}
   void SetClipboardText(const std::string& text) override { clipboard_ = text; }
   std::string ClipboardText() override { return clipboard_; }
   void SetClipboardPicture(const Picture& picture) override;

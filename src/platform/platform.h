@@ -1,4 +1,5 @@
-// What the program asks of the machine and of the person at it. A face with a screen and one without implement it.
+// What the program asks of the machine and of the person at it. A face with a screen and one without
+// implement it.
 #pragma once
 
 #include <filesystem>
@@ -14,9 +15,9 @@ class Window;
 struct FileDialogRequest {
   bool save = false;
   std::string title;
-  std::filesystem::path folder;   // where the dialog starts; it may not exist
-  std::string filter;             // "All Files (*.prj)|*.prj": pairs of text and patterns
-  std::string defaultExtension;   // "*.prj": given to a name that has none
+  std::filesystem::path folder;  // where the dialog starts; it may not exist
+  std::string filter;            // "All Files (*.prj)|*.prj": pairs of text and patterns
+  std::string defaultExtension;  // "*.prj": given to a name that has none
 };
 
 class Platform {
@@ -28,6 +29,8 @@ class Platform {
   virtual void ShowMessage(const std::string& text) = 0;
   // Shows a window and returns when it is closed.
   virtual void RunModal(Window& window) = 0;
+  // Puts the windows where they stand at the start.
+  virtual void ArrangeWindows() = 0;
 
   virtual void SetClipboardText(const std::string& text) = 0;
   virtual std::string ClipboardText() = 0;

@@ -1,11 +1,11 @@
 // What a person does with mouse and keyboard reaches the program, and what the program draws reaches the
 // screen.
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
-#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -14,6 +14,7 @@
 #include <QStyleOptionSlider>
 #include <QTextEdit>
 #include <QTimer>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <algorithm>
 #include <functional>
@@ -78,21 +79,47 @@ TEST_F(SplashTest, AKeyGoesOnToo) {
 }
 
 TEST_F(FaceTest, TheViewFillsTheFrameAndFollowsIt) {
-  auto& view = Shown<QMdiSubWindow>("Form36");
+  auto& view = Shown<QWidget>("Form36");
   auto& box = Controlled<PictureBox>("Form36", "Picture1");
   const int widthBefore = box.measures().PixelWidth();
-  EXPECT_EQ(view.geometry().left(), Shown<QMdiSubWindow>("Form51").geometry().right() + 1);
-  EXPECT_EQ(view.geometry().right() + 1, frame().centralWidget()->width());
+  const auto right = [this](QWidget& widget) { return widget.mapTo(&frame(), widget.rect().topRight()).x(); };
+  EXPECT_EQ(right(view), frame().width() - 1);
+  EXPECT_LT(right(Shown<QWidget>("Form51")), view.mapTo(&frame(), QPoint(0, 0)).x());
   frame().resize(frame().width() - 100, frame().height());
   Settle();
   EXPECT_EQ(box.measures().PixelWidth(), widthBefore - 100);
   EXPECT_EQ(Shown<QWidget>("Form36.Picture1").width(), widthBefore - 100);
-
-  // Once a person has placed it, it stays.
-  view.setGeometry(300, 20, 500, 500);
-  frame().resize(frame().width() + 50, frame().height());
+  Shown<QToolButton>("options/close").click();
   Settle();
-  EXPECT_EQ(view.geometry(), QRect(300, 20, 500, 500));
+  EXPECT_GT(box.measures().PixelWidth(), widthBefore + 300) << "the view takes the room of the column";
+}
+
+TEST_F(FaceTest, PanelsShareAColumnFloatAndComeBack) {
+  app().FindWindow("Form5")->Show();
+  app().FindWindow("Form55")->Show();
+  Settle();
+  EXPECT_TRUE(IsShown("Form51"));
+  EXPECT_TRUE(IsShown("Form55"));
+  EXPECT_FALSE(IsShown("Form5")) << "one tool is in sight";
+  auto& list = *frame().findChild<QWidget*>("tools")->findChild<QComboBox*>();
+  EXPECT_EQ(list.count(), 2);
+  list.setCurrentIndex(0);
+  emit list.activated(0);
+  EXPECT_TRUE(IsShown("Form5"));
+
+  Shown<QToolButton>("tools/float").click();
+  Settle();
+  EXPECT_NE(Shown<QWidget>("Form5").window(), &frame());
+  EXPECT_TRUE(IsShown("Form55"));
+  frame().findChild<QAction*>("MDIForm1.arrangeit")->trigger();
+  Settle();
+  EXPECT_EQ(Shown<QWidget>("Form5").window(), &frame());
+  NewJournalLines();
+  frame().findChild<QAction*>("MDIForm1.closepanels")->trigger();
+  Settle();
+  EXPECT_FALSE(IsShown("Form5") || IsShown("Form55"));
+  EXPECT_TRUE(IsShown("Form51"));
+  EXPECT_EQ(NewJournalLines(), (Lines{"press MDIForm1.closepanels"}));
 }
 
 TEST_F(FaceTest, ProfilePointsAreDrawnWithTheMouse) {
@@ -134,7 +161,8 @@ TEST_F(FaceTest, ADragMovesThePartAndTheScreenShowsTheSamePixels) {
   QTest::mouseClick(&Shown<QWidget>("Form36.Command33"), Qt::LeftButton);
   Settle();
   EXPECT_EQ(DifferingPixels(OnScreen(widget), box.picture()), 0);
-  EXPECT_EQ(box.picture().PixelAt(box.measures().PixelWidth() - 1, 0), 0) << "black outside the shaded square";
+  EXPECT_EQ(box.picture().PixelAt(box.measures().PixelWidth() - 1, 0), 0)
+      << "black outside the shaded square";
 }
 
 TEST_F(FaceTest, ButtonsKeysAndTheNewestMoveAreTold) {
@@ -280,7 +308,7 @@ TEST_F(FaceTest, MarksFollowTheProgram) {
 }
 
 TEST_F(FaceTest, AClosedWindowIsHiddenAndComesBackByTheMenu) {
-  Shown<QMdiSubWindow>("Form51").close();
+  Shown<QToolButton>("options/close").click();
   EXPECT_FALSE(IsShown("Form51"));
   EXPECT_FALSE(app().FindWindow("Form51")->visible());
   frame().findChild<QAction*>("MDIForm1.viewit")->trigger();

@@ -32,6 +32,15 @@ constexpr const char* kWebSite = "https://pelorium.example/";
 
 void ShowEstimatedArea(App& app) { app.frame->form31.ShowEstimatedArea(); }
 void OpenWebSite(App& app) { app.platform.OpenInBrowser(kWebSite); }
+void ArrangeWindows(App& app) { app.platform.ArrangeWindows(); }
+
+// The pages and the options stay.
+void ClosePanels(App& app) {
+  for (Window* window : app.windows()) {
+    if (window->role() == WindowRole::Tool && window->visible()) window->Close();
+  }
+}
+
 void Exit(App& app) { app.frame->mdiForm1.Exit(); }
 
 void RevolvePlainly(App& app) {
@@ -230,6 +239,10 @@ const std::vector<MenuCommand>& MenuCommands() {
       {"", "Help/ Notes |", "helpnow", Show, "helpme"},
       {"", "Help/Web |", "webitspiderman", Run, "", OpenWebSite},
       {"", "About", "aboutit", Show, "frmAbout"},
+
+      {"", "Window", "windowit"},
+      {"windowit", "Close panels", "closepanels", Run, "", ClosePanels},
+      {"windowit", "Arrange", "arrangeit", Run, "", ArrangeWindows},
   };
   return kCommands;
 }

@@ -21,6 +21,7 @@ constexpr const char* kSaveFilter = "All Files (*.txt;*.rtf;*.obj)|*.txt*;*.rtf;
 }  // namespace
 
 HelpMe::HelpMe(App& app) : ToolWindow(app, "helpme", "Help/ Notes") {
+  SetRole(WindowRole::Page);
   for (ScrollBar* bar : {&HScroll2, &HScroll3, &HScroll4}) bar->onChange = [this] { ShowChosenColour(); };
   ShowChosenColour();
   WireButtons();

@@ -39,6 +39,7 @@ MDIForm1::MDIForm1(App& app) : Window(app.host, "MDIForm1", kTitle), app_(app) {
   }
   SetRole(WindowRole::Frame);
   SetClosingControl(FindItem(menu_, "exiter"));
+  SetWindowsMenu(FindItem(menu_, "windowit"));
 }
 
 void MDIForm1::Load() {

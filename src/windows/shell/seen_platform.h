@@ -1,5 +1,5 @@
-// The machine, asked with the picture of the model up to date: whatever stops a handler to wait for the person shows the
-// model as it is by then.
+// The machine, asked with the picture of the model up to date: whatever stops a handler to wait for the
+// person shows the model as it is by then.
 #pragma once
 
 #include <functional>
@@ -25,6 +25,7 @@ class SeenPlatform : public Platform {
     show_();
     machine_.RunModal(window);
   }
+  void ArrangeWindows() override { machine_.ArrangeWindows(); }
   void SetClipboardText(const std::string& text) override { machine_.SetClipboardText(text); }
   std::string ClipboardText() override { return machine_.ClipboardText(); }
   void SetClipboardPicture(const Picture& picture) override { machine_.SetClipboardPicture(picture); }
