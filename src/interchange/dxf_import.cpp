@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 
 #include "base/fault.h"
@@ -39,6 +40,12 @@ class DxfTokens {
     }
   }
 
+  double Coordinate(double factor) {
+    const double value = Value() * factor;
+    if (!std::isfinite(value)) throw Fault(FaultKind::Overflow, "a coordinate" + Place());
+    return value;
+  }
+
   template <std::integral Field>
   Field Integer() {
     const double value = Value();
@@ -73,11 +80,11 @@ bool SeekCorner(DxfTokens& tokens) {
 // The three values of a place; the code of the first has been read.
 Vec3 ReadPlace(DxfTokens& tokens, double factor) {
   Vec3 place;
-  place.X = tokens.Value() * factor;
+  place.X = tokens.Coordinate(factor);
   tokens.Next();
-  place.Y = tokens.Value() * factor;
+  place.Y = tokens.Coordinate(factor);
   tokens.Next();
-  place.Z = tokens.Value() * factor;
+  place.Z = tokens.Coordinate(factor);
   return place;
 }
 
@@ -162,7 +169,7 @@ void ReadMeshPoint(DxfTokens& tokens, double factor, ModelStore& model, int part
   Vec3 place;
   for (auto [code, coordinate] : {std::pair{"10", &Vec3::X}, {"20", &Vec3::Y}, {"30", &Vec3::Z}}) {
     SeekCode(tokens, code);
-    place.*coordinate = tokens.Value() * factor;
+    place.*coordinate = tokens.Coordinate(factor);
   }
   LayPoint(model, part, number, place);
 }

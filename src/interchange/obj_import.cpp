@@ -2,6 +2,7 @@
 #include "interchange/obj_import.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/part_operations.h"
 #include "interchange/obj_slash_faces.h"
@@ -61,12 +62,19 @@ void RequireCornersInTable(const ModelStore& model, int part, int faces) {
   }
 }
 
+// A factor or a move can take a number out of the range that files and views hold.
+void RequireFinite(const PointRec& point) {
+  if (std::isfinite(point.X) && std::isfinite(point.Y) && std::isfinite(point.Z)) return;
+  throw Fault(FaultKind::Overflow, "a coordinate");
+}
+
 void ScalePoints(ModelStore& model, int part, int points, double factor) {
   for (int i = 1; i <= points; ++i) {
     PointRec& point = model.Points(part, i);
     point.X *= factor;
     point.Y *= factor;
     point.Z *= factor;
+    RequireFinite(point);
   }
 }
 
@@ -79,6 +87,7 @@ void MovePointOneTo(ModelStore& model, int part, const Vec3& place) {
     point.X += by.X;
     point.Y += by.Y;
     point.Z += by.Z;
+    RequireFinite(point);
   }
 }
 

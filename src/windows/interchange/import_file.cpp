@@ -13,7 +13,11 @@ void ImportFile(App& app, const std::filesystem::path& name,
                 const std::function<void(ByteSource& file)>& read) {
   app.model.Part(CurrentPart(app)).PartName = name.string();
   FileSource file(FileNamed(app, name));
-  read(file);
+  try {
+    read(file);
+  } catch (const Fault& fault) {
+    throw fault.kind() == FaultKind::FileError ? fault : fault.At(" in " + name.filename().string());
+  }
   FinishImport(app, name);
 }
 
