@@ -85,18 +85,21 @@ class Form14 : public ToolWindow {
   // The first exports, of the profiles as a grid, to the file named in Text13. They stay hidden.
   PushButton Command10{*this, "Command10", "Export obj  (.obj)",
                        "exports as obj file format ( faces not joined)"};
-  PushButton Command11{*this, "Command11", "save "};
+  PushButton Command11{*this, "Command11", "save ",
+                       "the cells of the profiles, which are rounded to 2 decimals"};
   PushButton Command12{*this, "Command12", "save obj only",
                        "saves as obj as vertices first, then face succession "};
-  PushButton Command13{*this, "Command13", "save stored"};
+  PushButton Command13{*this, "Command13", "save stored", "an empty file"};
   PushButton Command14{*this, "Command14", "Export stored+obj",
                        "saves as obj stored and obj into one file for export"};
   PushButton Command9{*this, "Command9", "save -seamless quads", "saves as seemless obj (faces are welded)"};
-  PushButton Command15{*this, "Command15", "save deconstruct"};
-  PushButton Command18{*this, "Command18", "        save          ( sep faces) "};
-  PushButton Command8{*this, "Command8", "cac normals"};
+  PushButton Command15{*this, "Command15", "save deconstruct", kNothingTip};
+  PushButton Command18{*this, "Command18", "        save          ( sep faces) ", kNothingTip};
+  PushButton Command8{*this, "Command8", "cac normals", kNothingTip};
 
  private:
+  static constexpr const char* kNothingTip = "does nothing";
+
   void Check2_Click();
   void Command26_Click();
   void Import(ObjKind kind, const char* filter);
