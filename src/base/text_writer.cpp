@@ -35,7 +35,9 @@ TextWriter& TextWriter::Integer(long long value) {
 }
 
 TextWriter& TextWriter::Print(double value) {
-  buffer_ += PrintForm(value);
+  if (!(value < 0)) buffer_ += ' ';
+  AppendGeneralForm(buffer_, value);
+  buffer_ += ' ';
   return *this;
 }
 

@@ -86,25 +86,5 @@ TEST_F(ExchangeWindows, DxfThereAndBack) {
   EXPECT_EQ(app.model.Part(1).PartName, name + ".dxf");
 }
 
-// Two rows of two points in the ranges of Precise Edit; a press of each hidden button.
-TEST_F(ExchangeWindows, GridExportsTakeTheRangesOfPreciseEdit) {
-  Form14& window = app.interchange->form14;
-  window.Text13.SetText("grid.obj");
-  app.view->form5.HScroll1.SetValue(3);
-  app.view->form5.HScroll2.SetValue(4);
-  app.view->form5.HScroll25.SetValueWidening(2);
-  app.model.ProfilePts(1, 3).X = 1.2345;
-  const std::pair<PushButton*, std::size_t> table[] = {{&window.Command10, 93}, {&window.Command14, 93},
-                                                       {&window.Command12, 59}, {&window.Command9, 61},
-                                                       {&window.Command11, 91}, {&window.Command13, 0}};
-  for (const auto& [button, size] : table) {
-    EXPECT_FALSE(button->visible());
-    button->Press();
-    EXPECT_EQ(BytesOf(folder() / "grid.obj").size(), size) << BytesOf(folder() / "grid.obj");
-  }
-  EXPECT_EQ(app.model.ProfilePts(1, 3).X, 1.23);
-  EXPECT_TRUE(app.faults.TakeAll().empty());
-}
-
 }  // namespace
 }  // namespace pelorium
