@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <functional>
 
 #include "base/files.h"
 #include "base/random_series.h"
@@ -10,6 +11,8 @@
 #include "core/part_operations.h"
 #include "core/profile_file.h"
 #include "core/project_file.h"
+#include "interchange/dxf_export.h"
+#include "interchange/obj_export.h"
 #include "interchange/text_part.h"
 #include "interchange/xyz_files.h"
 #include "platform/picture_files.h"
@@ -64,6 +67,20 @@ void WriteMeshSeeds(const fs::path& textPart, const fs::path& xyz, const ModelSt
   WriteFile(xyz / "positions.txt", [&](TextWriter& out) { WriteProfilePositions(model, out); });
 }
 
+void WriteExchangeSeeds(const std::function<fs::path(const char*)>& folder, const ModelStore& model) {
+  WriteFile(folder("obj") / "tetrahedron.obj", [&](TextWriter& out) { WriteObj(model, {}, out); });
+  WriteFile(folder("obj_slash") / "tetrahedron.obj", [&](TextWriter& out) {
+    WriteObj(model, {"", true, true, true, false}, out);
+  });
+  for (const char* name : {"dxf_tri", "dxf_quad"}) {
+    WriteFile(folder(name) / "tetrahedron.dxf",
+              [&](TextWriter& out) { WriteDxfTriangles(model, 1, 10, std::nullopt, out); });
+    WriteFile(folder(name) / "subdivided.dxf",
+              [&](TextWriter& out) { WriteDxfSubdivided(model, 1, 1, out); });
+  }
+  WriteFile(folder("dxf_mesh") / "tetrahedron.dxf", [&](TextWriter& out) { WriteDxfMesh(model, 1, out); });
+}
+
 // Every look, a bullet, and characters of one to four bytes.
 void WriteTextSeeds(const fs::path& folder) {
   RichText text("plain \\ {x}\ttab\nsecond\n\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
@@ -103,6 +120,7 @@ int main(int argc, char** argv) {
     AddTetrahedron(model, 1);
     SyncFaceCorners(model, 1);
     WriteMeshSeeds(folder("text_part"), folder("xyz"), model);
+    WriteExchangeSeeds(folder, model);
     WriteTextSeeds(folder("rich_text"));
     WritePictureSeeds(folder("picture"));
     WriteProfileSeeds(folder("profile"), model);

@@ -91,7 +91,14 @@ std::string ReadFile(const std::filesystem::path& path, std::size_t most) {
 
 void WriteFile(const std::filesystem::path& path, const FileWriter& write) {
   OpenFile file(path, "wb");
-  WriteAndFlush(file, write);
+  TextWriter writer(file);
+  try {
+    write(writer);
+  } catch (const Fault& fault) {
+    if (fault.kind() != FaultKind::FileError) writer.Flush();
+    throw;
+  }
+  writer.Flush();
   file.Close();
 }
 

@@ -1,6 +1,8 @@
 // Free-format input.
 #include "base/item_reader.h"
 
+#include <algorithm>
+
 #include "base/fault.h"
 #include "base/line_reader.h"
 
@@ -29,9 +31,9 @@ Fault ItemReader::Place(const Fault& fault) {
     const bool isPair = text_[i] == '\r' && i + 1 < text_.size() && text_[i + 1] == '\n';
     if (IsLineEnd(text_[i]) && !isPair) ++line;
   }
-  const bool isElsewhere = line <= lineNumbers_.size();
-  return fault.At(", line " +
-                  std::to_string(isElsewhere ? lineNumbers_[line - 1] : static_cast<std::int64_t>(line)));
+  std::int64_t number = static_cast<std::int64_t>(line);
+  if (!lineNumbers_.empty()) number = lineNumbers_[std::min(line, lineNumbers_.size()) - 1];
+  return fault.At(", line " + std::to_string(number));
 }
 
 double ItemReader::Number() {

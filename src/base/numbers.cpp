@@ -18,7 +18,8 @@ namespace {
 constexpr int kGeneralDigits = 15;
 constexpr double kWholeLimit = 4503599627370496.0;  // 2^52: from here on a double holds no fractions
 
-constexpr std::array<double, 10> kPowersOfTen = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+constexpr std::array<double, 16> kPowersOfTen = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 void AppendWhole(std::string& text, std::int64_t value) {
   char digits[24];
@@ -46,18 +47,60 @@ void AppendLaidOut(std::string& text, bool negative, std::string_view digits, in
   }
 }
 
-// Takes apart what to_chars gives in scientific notation: "-d.ddde+xx".
-void AppendScientific(std::string& text, std::string_view scientific) {
-  const bool negative = scientific.front() == '-';
-  if (negative) scientific.remove_prefix(1);
-  const std::size_t e = scientific.find('e');
-  char digits[32];
+// What to_chars gives in scientific notation, "-d.ddde+xx", taken apart.
+struct Digits {
+  bool negative = false;
   std::size_t count = 0;
+  char digits[32];
+  int exponent = 0;
+
+  std::string_view view() const { return {digits, count}; }
+};
+
+Digits TakeApart(std::string_view scientific) {
+  Digits number;
+  number.negative = scientific.front() == '-';
+  if (number.negative) scientific.remove_prefix(1);
+  const std::size_t e = scientific.find('e');
   for (const char c : scientific.substr(0, e)) {
-    if (c != '.') digits[count++] = c;
+    if (c != '.') number.digits[number.count++] = c;
   }
-  const int exponent = std::atoi(scientific.data() + e + 1);
-  AppendLaidOut(text, negative, {digits, count}, exponent);
+  const bool isBelowOne = scientific[e + 1] == '-';
+  for (const char c : scientific.substr(e + 2)) number.exponent = number.exponent * 10 + (c - '0');
+  if (isBelowOne) number.exponent = -number.exponent;
+  return number;
+}
+
+void Append(std::string& text, const Digits& number) {
+  AppendLaidOut(text, number.negative, number.view(), number.exponent);
+}
+
+// Rounds the shortest digits of a number to 15. They lie on the same side of every half as the number itself:
+// a half between the two would be shorter, or nearer to the number. Only digits that are a half themselves do
+// not tell, and those of the smallest numbers, which hold fewer than 15; false then.
+bool RoundToGeneral(Digits& number, double value) {
+  if (std::fabs(value) < std::numeric_limits<double>::min()) return false;
+  constexpr std::size_t kKept = kGeneralDigits;
+  if (number.count <= kKept) return true;
+  if (number.count == kKept + 1 && number.digits[kKept] == '5') return false;
+  const bool up = number.digits[kKept] >= '5';
+  number.count = kKept;
+  if (!up) return true;
+  while (number.count > 0 && number.digits[number.count - 1] == '9') --number.count;
+  if (number.count == 0) {
+    number.digits[number.count++] = '1';
+    ++number.exponent;
+  } else {
+    ++number.digits[number.count - 1];
+  }
+  return true;
+}
+
+template <typename Real>
+Digits ShortestDigits(Real value) {
+  char buffer[40];
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific).ptr;
+  return TakeApart({buffer, end});
 }
 
 template <typename Real>
@@ -66,9 +109,7 @@ std::string Shortest(Real value) {
   if (std::isinf(value)) return value < 0 ? "-inf" : "inf";
   std::string text;
   if (value == 0) return "0";
-  char buffer[40];
-  *std::to_chars(buffer, buffer + sizeof buffer - 1, value, std::chars_format::scientific).ptr = '\0';
-  AppendScientific(text, buffer);
+  Append(text, ShortestDigits(value));
   return text;
 }
 
@@ -121,9 +162,33 @@ bool IsTooSmall(std::string_view number) {
 // The largest number in 15 digits, which lies above it: what a file was given, it must give back.
 constexpr std::string_view kLargestForm = "1.79769313486232E+308";
 
+// A number of up to 15 digits without an exponent, as nearly all in files are: a double holds its digits and
+// the power of ten exactly, so that the one division rounds as it should. Nothing for others.
+std::optional<double> ConvertShort(std::string_view number) {
+  constexpr std::size_t kMostExactDigits = 15;
+  const bool negative = number.front() == '-';
+  if (negative) number.remove_prefix(1);
+  if (number.size() > kMostExactDigits) return std::nullopt;
+  std::int64_t digits = 0;
+  std::size_t point = number.size();
+  for (std::size_t i = 0; i < number.size(); ++i) {
+    if (IsDigit(number[i])) {
+      digits = digits * 10 + (number[i] - '0');
+    } else if (number[i] == '.') {
+      point = i;
+    } else {
+      return std::nullopt;
+    }
+  }
+  const std::size_t decimals = point == number.size() ? 0 : number.size() - point - 1;
+  const double value = static_cast<double>(digits) / kPowersOfTen[decimals];
+  return negative ? -value : value;
+}
+
 // Converts text that NumberLength has measured; nothing for a number too large for a double.
 std::optional<double> Convert(std::string_view number) {
   if (number.front() == '+') number.remove_prefix(1);
+  if (const std::optional<double> value = ConvertShort(number)) return value;
   std::string withE;
   const std::size_t d = number.find_first_of("Dd");
   if (d != std::string_view::npos) {
@@ -170,10 +235,15 @@ void AppendGeneralForm(std::string& text, double value) {
     AppendWhole(text, static_cast<std::int64_t>(value));
     return;
   }
-  char buffer[40];
-  *std::to_chars(buffer, buffer + sizeof buffer - 1, value, std::chars_format::scientific, kGeneralDigits - 1)
-       .ptr = '\0';
-  AppendScientific(text, buffer);
+  Digits number = ShortestDigits(value);
+  if (!RoundToGeneral(number, value)) {
+    char buffer[40];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific,
+                                   kGeneralDigits - 1)
+                         .ptr;
+    number = TakeApart({buffer, end});
+  }
+  Append(text, number);
 }
 
 std::string GeneralForm(double value) {

@@ -1,6 +1,8 @@
 // Buffered text output.
 #include "base/text_writer.h"
 
+#include <charconv>
+
 #include "base/numbers.h"
 
 namespace pelorium {
@@ -27,12 +29,15 @@ TextWriter& TextWriter::Rounded(double value, int decimals) {
 }
 
 TextWriter& TextWriter::Integer(long long value) {
-  buffer_ += std::to_string(value);
+  char digits[24];
+  buffer_.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
   return *this;
 }
 
 TextWriter& TextWriter::Print(double value) {
-  buffer_ += PrintForm(value);
+  if (!(value < 0)) buffer_ += ' ';
+  AppendGeneralForm(buffer_, value);
+  buffer_ += ' ';
   return *this;
 }
 

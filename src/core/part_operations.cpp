@@ -3,9 +3,14 @@
 
 namespace pelorium {
 
+bool CornersAreInTable(const FaceRec& face) {
+  const auto isIn = [](std::int32_t corner) { return corner >= 0 && corner <= kMaxPoints; };
+  return isIn(face.corner1pt) && isIn(face.corner2pt) && isIn(face.corner3pt);
+}
+
 void SyncFaceCorners(ModelStore& model, int part) {
   for (FaceRec& face : FaceRange(model, part, FirstFace(model, part), model.Part(part).maxfaces)) {
-    if (face.corner1pt < 0 || face.corner2pt < 0 || face.corner3pt < 0) continue;
+    if (!CornersAreInTable(face)) continue;
     const PointRec& p1 = model.Points(part, face.corner1pt);
     const PointRec& p2 = model.Points(part, face.corner2pt);
     const PointRec& p3 = model.Points(part, face.corner3pt);

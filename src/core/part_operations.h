@@ -15,8 +15,12 @@ void LayPoint(ModelStore& model, int part, int number, const Place& place) {
   point.onoff = model.PointMark(part, number) = 1;
 }
 
-// Copies the positions of each face's corner points into the face, for the faces in use of one Part. A corner
-// below 0 leaves its face as it is; one above 23000 raises a Subscript fault.
+// A file may hold any numbers as corners; a face with one outside the table of points cannot be drawn or
+// followed.
+bool CornersAreInTable(const FaceRec& face);
+
+// Copies the positions of each face's corner points into the face, for the faces in use of one Part. A face
+// with a corner outside the table stays as it is.
 void SyncFaceCorners(ModelStore& model, int part);
 
 // Moves the whole table of points of a Part, in use or not, so that its point 1 lies on `place`.

@@ -36,7 +36,7 @@ void MarkCorners(ModelStore& model, int part, int firstFace, int lastFace, bool 
   for (const FaceRec& face : FaceRange(model, part, firstFace, lastFace)) {
     if (group && face.group != *group) continue;
     for (const int corner : {face.corner1pt, face.corner2pt, face.corner3pt}) {
-      MarkPoint(model, part, corner, on);
+      if (corner >= 0 && corner <= kMaxPoints) MarkPoint(model, part, corner, on);
     }
   }
 }

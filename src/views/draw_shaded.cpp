@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+#include "core/part_operations.h"
+
 namespace pelorium {
 
 namespace {
@@ -155,7 +157,7 @@ void Scene::DrawFaces() {
   for (int part = 0; part < kUserParts; ++part) {
     for (const FaceRec& face : FacesInUse(part)) {
       const MaterialRec& m = model_.MaterialGroups(face.group);
-      if (face.onoff == 1) {
+      if (face.onoff == 1 && CornersAreInTable(face)) {
         triangles.Colour(&face == chosen ? kChosenFaceShade
                                          : Shade{m.KdR + tint, m.KdG + tint, m.KdB + tint});
         for (const PointRec* corner : Corners(part, face)) triangles.Vertex(*corner);
@@ -170,7 +172,7 @@ void Scene::DrawEdges(int part, const Shade& shade) {
   Drawing lines(gl_, GlShape::Lines);
   lines.Colour(shade);
   for (const FaceRec& face : FacesInUse(part)) {
-    if (face.onoff != 1) continue;
+    if (face.onoff != 1 || !CornersAreInTable(face)) continue;
     const auto [corner1, corner2, corner3] = Corners(part, face);
     lines.Line(*corner1, *corner2);
     lines.Line(*corner2, *corner3);

@@ -75,6 +75,14 @@ TEST_F(FilesTest, FaultsOfTheFileSystem) {
   EXPECT_TRUE(Raises(FaultKind::FileError, [&] { WriteFile(folder() / "no" / "folder", WriteSample); }));
 }
 
+TEST_F(FilesTest, WhatWasWrittenInPlaceBeforeAFaultStays) {
+  const auto path = folder() / "half.dxf";
+  EXPECT_TRUE(Raises(FaultKind::BadNumber, [&] {
+    WriteFile(path, [](TextWriter& writer) { writer.Text("so far").General(0.0 / 0.0); });
+  }));
+  EXPECT_EQ(BytesOf(path), "so far");
+}
+
 TEST_F(FilesTest, AFailedReplaceKeepsTheOldFileAndLeavesNothingBeside) {
   const auto path = folder() / "model.prj";
   WriteBytes(path, "old");

@@ -3,11 +3,13 @@
 
 #include <clocale>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <locale>
 #include <tuple>
 #include <vector>
 
+#include "base/random_series.h"
 #include "base/text_writer.h"
 #include "support/harness.h"
 
@@ -39,6 +41,31 @@ TEST(Numbers, GeneralForm) {
 }
 
 // Ties are those of value * 10^decimals as a double: 2.675 * 100 is 267.5 and goes to the even 268.
+// Against the plain way: 15 digits asked of the library. Halves, carries, small and large numbers, and
+// chance.
+TEST(Numbers, GeneralFormRoundsTheNumberItself) {
+  std::vector<double> values = {0.1 + 0.2,
+                                1.0 / 3,
+                                999999999999999.5,
+                                99999999.99999995,
+                                0.00999999999999999967,
+                                1125899906842624.5,
+                                281474976710656.125,
+                                2.2250738585072014e-308,
+                                5e-324,
+                                1e-310};
+  RandomSeries random;
+  for (int i = 0; i < 20000; ++i) {
+    const double value = random.Next() * std::pow(10.0, i % 30 - 12);
+    values.insert(values.end(), {value, -value, value / 3, std::nearbyint(value * 1000) / 1000});
+  }
+  for (const double value : values) {
+    char plain[40];
+    std::snprintf(plain, sizeof plain, "%.14e", value);
+    ASSERT_EQ(WholeNumber(GeneralForm(value)), WholeNumber(plain)) << plain;
+  }
+}
+
 TEST(Numbers, RoundedForm) {
   const std::tuple<int, std::vector<double>, const char*> table[] = {
       {0, {2.5, 1.5, -0.5}, "2|2|0|"},

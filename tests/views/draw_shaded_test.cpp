@@ -108,7 +108,7 @@ TEST_F(Shaded, MarkedPoints) {
   EXPECT_TRUE(Matches(Drawn(), "points"));
 }
 
-TEST_F(Shaded, FaultEndsTheShape) {
+TEST_F(Shaded, AFaultEndsTheShapeAndAMissingCornerOneFace) {
   settings.shown.showWire = true;
   SetFaces(0, 3);
   model.Faces(0, 2).group = 42;
@@ -118,7 +118,7 @@ TEST_F(Shaded, FaultEndsTheShape) {
   model.Faces(0, 2).group = 7;
   model.Faces(0, 3).corner2pt = 23001;
   recorder.Restart();
-  EXPECT_TRUE(Raises(FaultKind::Subscript, [this] { DrawShaded(model, settings, recorder); }));
+  DrawShaded(model, settings, recorder);
   // Nothing of the face with the missing corner; the two before it stand.
   EXPECT_TRUE(Matches(Lines(), "fault"));
 }

@@ -76,9 +76,9 @@ TEST_F(NoticesTest, ExitHidesWindowsInItsOrder) {
   app.host.listener = &order;
   PressItem("exiter");
   app.host.listener = nullptr;
-  ASSERT_GE(order.names.size(), 4u);
-  EXPECT_EQ(Lines(order.names.begin(), order.names.begin() + 4),
-            (Lines{"editbyface", "Form14", "frmSplash", "MDIForm1"}));
+  ASSERT_GE(order.names.size(), 5u);
+  EXPECT_EQ(Lines(order.names.begin(), order.names.begin() + 5),
+            (Lines{"editbyface", "Form12", "Form14", "frmSplash", "MDIForm1"}));
   EXPECT_EQ(order.names.back(), "Form36");
 }
 

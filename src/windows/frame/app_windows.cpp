@@ -17,8 +17,8 @@ namespace {
 const std::vector<const char*> kOrder = {
     "frmSplash",    "MDIForm1",        "Form51",          "Form5",           "Formulas", "Formulas2frm",
     "Formulas3frm", "frmsaveprof",     "editbyface",      "revolveprof",     "Form55",   "freeface",
-    "unfold",       "specialeffects1", "specialeffects5", "specialeffects6", "Form31",   "Form14",
-    "helpme",       "frmAbout",        "Form36",
+    "unfold",       "specialeffects1", "specialeffects5", "specialeffects6", "Form31",   "Form12",
+    "Form14",       "helpme",          "frmAbout",        "Form36",
 };
 
 }  // namespace

@@ -4,8 +4,13 @@
 #include "base/files.h"
 #include "interchange/material_file.h"
 #include "interchange/obj_export.h"
+#include "windows/interchange/import_file.h"
+#include "windows/interchange/scratch_files.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
+#include "windows/view/form5_precise_edit.h"
+#include "windows/view/shared_parameters.h"
+#include "windows/view/view_windows.h"
 
 namespace pelorium {
 
@@ -16,15 +21,33 @@ constexpr const char* kMaterialFileEnding = "_materialfile.mtl";  // behind the 
 Form14::Form14(App& app) : ToolWindow(app, "Form14", "Import/Export Obj  (.obj)") {
   Text13.SetText((app.applicationPath / "obj1.obj").string());
   Check2.onClick = [this](const Click&) { Check2_Click(); };
+  OnFile(Command25, [this] { Import(ObjKind::Plain, "All Files (*.obj)|*.obj"); });
+  OnFile(Command1, [this] { Import(ObjKind::WithSlashes, "All Files (*.obj*)|*.obj*"); });
   OnFile(Command26, [this] { Command26_Click(); });
+  BindLegacyExports();
+  for (Control* uvButton : std::initializer_list<Control*>{&Command2, &Command3, &Command4, &Command5,
+                                                           &Command6, &Command17, &Command7, &Command16}) {
+    uvButton->SetEnabled(false);
+  }
   BrowseInto(Dir1, File1, Text13);
-  SetLayout(Column({
+  SetLayout(DeclareLayout());
+}
+
+LayoutItem Form14::DeclareLayout() {
+  return Column({
       Labelled("File", Text13),
       Row({Single(Dir1), Single(File1)}),
+      Frame("Import", {BarRow(HScroll2), Flow({&Check7}), Flow({&Command25, &Command1}),
+                       Single(withSlashesNote), Single(Label1)}),
       Frame("Groups", {Flow({&Check2, &Check13, &Check1})}),
       Frame("Export",
             {Flow({&Check3, &Option1, &Option2}), Flow({&Check5, &Check4, &Check12}), Flow({&Command26})}),
-  }));
+      Frame("Manage texture uv's mapping  (UVMapper Classic)",
+            {Flow({&Command2, &Command3, &Command4, &Command5, &Command6, &Command17})}),
+      Frame("Model Part# from obj UV's options", {Flow({&Command7, &Command16})}),
+      Single(sizesNote),
+      Single(treesNote),
+  });
 }
 
 void Form14::Load() {
@@ -35,6 +58,22 @@ void Form14::Load() {
 void Form14::Check2_Click() {
   Check1.SetValue(Check2.value());
   Check13.SetValue(Check2.value());
+}
+
+void Form14::Import(ObjKind kind, const char* filter) {
+  const auto name = AskFileName(app_, {false, "Open", "objs", filter, ""});
+  if (name.empty()) return;
+  Text13.SetText(name.string());
+  ImportFile(app_, name, [&](ByteSource& file) {
+    const ObjLines lines = SplitObj(file, kind, Check7.value());
+    WriteScratchFiles(app_, lines.points.text(), lines.faces.text());
+    ObjImportSettings settings;
+    settings.kind = kind;
+    settings.scale = HScroll2.Number();
+    settings.origin = Origin(app_);
+    ReadObjLines(app_.model, CurrentPart(app_), lines, settings);
+  });
+  Label1.SetCaption(ImportedCounts(app_));
 }
 
 // The material file is written in any case; the OBJ file refers to it only with Check3.
@@ -54,6 +93,47 @@ void Form14::Command26_Click() {
   settings.textureCoordinates = Check5.value();
   settings.scaledDown = Check12.value();
   ExportFile(app_, name, [&](TextWriter& out) { WriteObj(app_.model, settings, out); });
+}
+
+// Command8, 15 and 18 do nothing.
+void Form14::BindLegacyExports() {
+  for (Control* hidden :
+       std::initializer_list<Control*>{&Command10, &Command11, &Command12, &Command13, &Command14, &Command9,
+                                       &Command15, &Command18, &Command8}) {
+    hidden->SetVisible(false);
+  }
+  for (PushButton* button : {&Command10, &Command14}) {
+    OnFile(*button, [this] { ExportCells(CellFaces::Forward, true, true); });
+  }
+  OnFile(Command11, [this] {
+    RoundProfilePoints(app_.model, 2);
+    ExportCells(CellFaces::Backward, true, false);
+  });
+  OnFile(Command12, [this] { ExportCells(CellFaces::None, false, false); });
+  OnFile(Command13, [this] { ExportFile(app_, Text13.text(), [](TextWriter&) {}); });
+  OnFile(Command9, [this] { Command9_Click(); });
+}
+
+GridExportSettings Form14::ReadGridSettings(bool withGroups, bool withCaps) const {
+  const Form5& ranges = app_.view->form5;
+  GridExportSettings settings;
+  settings.grid = HeldInTable(
+      {ranges.HScroll1.value(), ranges.HScroll2.value(), PointRangeStart(app_), PointRangeEnd(app_)});
+  settings.groupPerLayer = withGroups && Check2.value();
+  if (withCaps) settings.cappedProfile = CurrentProfile(app_);
+  return settings;
+}
+
+void Form14::ExportCells(CellFaces faces, bool withGroups, bool withCaps) {
+  const GridExportSettings settings = ReadGridSettings(withGroups, withCaps);
+  ExportFile(app_, Text13.text(),
+             [&](TextWriter& out) { WriteSeparateCells(app_.model, settings, faces, out); });
+}
+
+void Form14::Command9_Click() {
+  RoundProfilePoints(app_.model, 3);
+  const GridExportSettings settings = ReadGridSettings(true, false);
+  ExportFile(app_, Text13.text(), [&](TextWriter& out) { WriteJoinedCells(app_.model, settings, out); });
 }
 
 }  // namespace pelorium

@@ -1,11 +1,12 @@
 // Builds the windows of this room.
 #include "windows/interchange/interchange_windows.h"
 
+#include "windows/interchange/form12_dxf_files.h"
 #include "windows/interchange/form14_obj_files.h"
 #include "windows/shell/app_shell.h"
 
 namespace pelorium {
 
-InterchangeWindows::InterchangeWindows(App& app) : form14(app.Add<Form14>()) {}
+InterchangeWindows::InterchangeWindows(App& app) : form12(app.Add<Form12>()), form14(app.Add<Form14>()) {}
 
 }  // namespace pelorium

@@ -8,6 +8,7 @@ class App;
 struct InterchangeWindows {
   explicit InterchangeWindows(App& app);
 
+  class Form12& form12;
   class Form14& form14;
 };
 
