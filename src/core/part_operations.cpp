@@ -1,6 +1,10 @@
 // Operations on whole Parts.
 #include "core/part_operations.h"
 
+#include <cmath>
+
+#include "base/fault.h"
+
 namespace pelorium {
 
 bool CornersAreInTable(const FaceRec& face) {
@@ -20,6 +24,11 @@ void SyncFaceCorners(ModelStore& model, int part) {
   }
 }
 
+void RequireFinite(const PointRec& point) {
+  if (std::isfinite(point.X) && std::isfinite(point.Y) && std::isfinite(point.Z)) return;
+  throw Fault(FaultKind::Overflow, "a coordinate");
+}
+
 void MovePartTo(ModelStore& model, int part, const Vec3& place) {
   const PointRec& first = model.Points(part, 1);
   const Vec3 by = {place.X - first.X, place.Y - first.Y, place.Z - first.Z};
@@ -28,6 +37,7 @@ void MovePartTo(ModelStore& model, int part, const Vec3& place) {
     point.X += by.X;
     point.Y += by.Y;
     point.Z += by.Z;
+    RequireFinite(point);
   }
 }
 

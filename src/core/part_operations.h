@@ -23,7 +23,11 @@ bool CornersAreInTable(const FaceRec& face);
 // with a corner outside the table stays as it is.
 void SyncFaceCorners(ModelStore& model, int part);
 
-// Moves the whole table of points of a Part, in use or not, so that its point 1 lies on `place`.
+// A factor or a move can take a coordinate out of the range that files and views hold: an Overflow fault.
+void RequireFinite(const PointRec& point);
+
+// Moves the whole table of points of a Part, in use or not, so that its point 1 lies on `place`. A place that
+// would be no finite number any more ends it with an Overflow fault.
 void MovePartTo(ModelStore& model, int part, const Vec3& place);
 
 // "12faces  points 8", as the View Options show it.

@@ -2,7 +2,6 @@
 #include "interchange/obj_import.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "core/part_operations.h"
 #include "interchange/obj_slash_faces.h"
@@ -62,31 +61,12 @@ void RequireCornersInTable(const ModelStore& model, int part, int faces) {
   }
 }
 
-// A factor or a move can take a number out of the range that files and views hold.
-void RequireFinite(const PointRec& point) {
-  if (std::isfinite(point.X) && std::isfinite(point.Y) && std::isfinite(point.Z)) return;
-  throw Fault(FaultKind::Overflow, "a coordinate");
-}
-
 void ScalePoints(ModelStore& model, int part, int points, double factor) {
   for (int i = 1; i <= points; ++i) {
     PointRec& point = model.Points(part, i);
     point.X *= factor;
     point.Y *= factor;
     point.Z *= factor;
-    RequireFinite(point);
-  }
-}
-
-// All slots move, those behind the last point as well.
-void MovePointOneTo(ModelStore& model, int part, const Vec3& place) {
-  const PointRec& first = model.Points(part, 1);
-  const Vec3 by = {place.X - first.X, place.Y - first.Y, place.Z - first.Z};
-  for (int i = 1; i <= kMaxPoints; ++i) {
-    PointRec& point = model.Points(part, i);
-    point.X += by.X;
-    point.Y += by.Y;
-    point.Z += by.Z;
     RequireFinite(point);
   }
 }
@@ -120,7 +100,7 @@ void ReadObjLines(ModelStore& model, int part, const ObjLines& lines, const ObjI
   header.minpoints = header.minfaces = 1;
   // Before the move: where the views are told not to follow points, they show the model as the file has it.
   SyncFaceCorners(model, part);
-  if (settings.origin) MovePointOneTo(model, part, *settings.origin);
+  if (settings.origin) MovePartTo(model, part, *settings.origin);
 }
 
 void ReadObj(ModelStore& model, int part, ByteSource& file, const ObjImportSettings& settings) {
