@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <cstring>
 #include <utility>
 
 namespace pelorium {
@@ -30,24 +31,64 @@ void ForCommonRows(const ImageEvents& events, const cDIBSection& first, cDIBSect
   });
 }
 
-void AddShort(const std::array<std::int64_t, kBytes>& constants, std::int16_t factor1, std::int16_t factor2,
-              int halvings, const cDIBSection& first, cDIBSection& second, const ImageEvents& events) {
-  std::array<std::int16_t, kStripBytes> constant;
-  for (std::size_t k = 0; k < constant.size(); ++k)
-    constant[k] = static_cast<std::int16_t>(constants[k % kBytes]);
-  const std::int16_t* __restrict add = constant.data();
-  ForCommonRows(
-      events, first, second,
-      [&](const std::uint8_t* __restrict from, std::uint8_t* __restrict to, int count) {
-        for (int k = 0; k < count; ++k) {
-          const auto product1 = static_cast<std::int16_t>(from[k] * factor1);
-          const auto product2 = static_cast<std::int16_t>(to[k] * factor2);
-          const auto sum = static_cast<std::int16_t>(product1 + product2 + add[k]);
-          const auto part =
-              static_cast<std::int16_t>(sum >> halvings);  // below 0 is 0 in the end, however it is halved
-          to[k] = static_cast<std::uint8_t>(std::min<std::int16_t>(std::max<std::int16_t>(part, 0), 255));
-        }
-      });
+// Sixteen bytes as eight pairs, whose lower and upper bytes are worked on apart.
+using Pairs = std::uint16_t __attribute__((vector_size(16)));
+using Shorts = std::int16_t __attribute__((vector_size(16)));
+constexpr int kPairsBytes = 16;
+
+// What one byte becomes: factors, constant, halving.
+struct ShortSum {
+  std::int16_t factor1, factor2;
+  int halvings;
+
+  Pairs operator()(Pairs first, Pairs second, Shorts add) const {
+    const Shorts sum = ((Shorts)first * factor1 + (Shorts)second * factor2 + add) >> halvings;
+    const Shorts lowest = {}, highest = lowest + 255;
+    const Shorts positive = sum > lowest ? sum : lowest;
+    return (Pairs)(positive < highest ? positive : highest);
+  }
+};
+
+// The constants of a strip's bytes, those at even and those at odd places apart.
+struct StripConstants {
+  std::array<std::int16_t, kStripBytes / 2> even, odd;
+
+  explicit StripConstants(const std::array<std::int64_t, kBytes>& constants) {
+    for (std::size_t k = 0; k < even.size(); ++k) {
+      even[k] = static_cast<std::int16_t>(constants[2 * k % kBytes]);
+      odd[k] = static_cast<std::int16_t>(constants[(2 * k + 1) % kBytes]);
+    }
+  }
+};
+
+template <typename Vector>
+Vector VectorAt(const void* from) {
+  Vector vector;
+  std::memcpy(&vector, from, sizeof vector);
+  return vector;
+}
+
+void AddBlock(const ShortSum& sum, const StripConstants& add, int k, const std::uint8_t* first,
+              std::uint8_t* second) {
+  const auto a = VectorAt<Pairs>(first + k), b = VectorAt<Pairs>(second + k);
+  const Pairs low = sum(a & 255, b & 255, VectorAt<Shorts>(add.even.data() + k / 2));
+  const Pairs high = sum(a >> 8, b >> 8, VectorAt<Shorts>(add.odd.data() + k / 2));
+  const Pairs both = low | high << 8;
+  std::memcpy(second + k, &both, sizeof both);
+}
+
+void AddShort(const std::array<std::int64_t, kBytes>& constants, const ShortSum& sum,
+              const cDIBSection& first, cDIBSection& second, const ImageEvents& events) {
+  const StripConstants add(constants);
+  ForCommonRows(events, first, second, [&](const std::uint8_t* from, std::uint8_t* to, int count) {
+    int k = 0;
+    for (; k + kPairsBytes <= count; k += kPairsBytes) AddBlock(sum, add, k, from, to);
+    for (; k < count; ++k) {
+      const auto constant = static_cast<int>(constants[static_cast<std::size_t>(k % kBytes)]);
+      const int value = from[k] * sum.factor1 + to[k] * sum.factor2 + constant;
+      to[k] = static_cast<std::uint8_t>(std::clamp(value >> sum.halvings, 0, 255));
+    }
+  });
 }
 
 void AddWide(const std::array<std::int64_t, kBytes>& constants, std::int64_t factor1, std::int64_t factor2,
@@ -69,7 +110,7 @@ void Add(const cDIBSection& first, cDIBSection& second, const ImageTerm& firstTe
     largest = std::max<std::int64_t>(largest, std::llabs(constant));
   largest += 255LL * (std::abs(firstTerm.factor) + std::abs(secondTerm.factor));
   if (largest <= INT16_MAX) {
-    AddShort(constants, firstTerm.factor, secondTerm.factor, halvings, first, second, events);
+    AddShort(constants, {firstTerm.factor, secondTerm.factor, halvings}, first, second, events);
   } else {
     AddWide(constants, firstTerm.factor, secondTerm.factor, halvings, first, second, events);
   }

@@ -123,27 +123,28 @@ Planes Lightened(const Planes& in, float factor) {
 
 }  // namespace
 
+// Levels go in and come out by way of rows of a strip: a vector that is read right behind the writes of its
+// four parts would have to wait for them.
 void Lighten(cDIBSection& surface, int percent, const ImageEvents& events) {
+  constexpr std::size_t kVectors = kStripColumns / kLanes;
   std::array<float, 256> levels;
   for (std::size_t i = 0; i < levels.size(); ++i) levels[i] = static_cast<float>(i) / 255;
-  const float factor = static_cast<float>(percent) / 100 + 1;
+  const float factor = std::max(static_cast<float>(percent) / 100 + 1, 0.0F);  // below 0 all is black too
+  std::array<Planes, kVectors> strip{};
   ForStripRows(events, surface, [&](std::uint8_t* bytes, int count) {
     const auto pixels = static_cast<std::size_t>(count / kBytes);
-    for (std::size_t at = 0; at < pixels; at += kLanes) {
-      Planes planes{};
-      const std::size_t lanes = std::min(kLanes, pixels - at);
-      std::uint8_t* pixel = bytes + at * kBytes;
-      for (std::size_t k = 0; k < lanes; ++k) {
-        planes.blue[k] = levels[pixel[3 * k]];
-        planes.green[k] = levels[pixel[3 * k + 1]];
-        planes.red[k] = levels[pixel[3 * k + 2]];
-      }
-      planes = Lightened(planes, factor);
-      for (std::size_t k = 0; k < lanes; ++k) {
-        pixel[3 * k] = Held(static_cast<int>(planes.blue[k]));
-        pixel[3 * k + 1] = Held(static_cast<int>(planes.green[k]));
-        pixel[3 * k + 2] = Held(static_cast<int>(planes.red[k]));
-      }
+    for (std::size_t k = 0; k < pixels; ++k) {
+      Planes& planes = strip[k / kLanes];
+      planes.blue[k % kLanes] = levels[bytes[3 * k]];
+      planes.green[k % kLanes] = levels[bytes[3 * k + 1]];
+      planes.red[k % kLanes] = levels[bytes[3 * k + 2]];
+    }
+    for (Planes& planes : strip) planes = Lightened(planes, factor);
+    for (std::size_t k = 0; k < pixels; ++k) {
+      const Planes& planes = strip[k / kLanes];
+      bytes[3 * k] = static_cast<std::uint8_t>(planes.blue[k % kLanes]);
+      bytes[3 * k + 1] = static_cast<std::uint8_t>(planes.green[k % kLanes]);
+      bytes[3 * k + 2] = static_cast<std::uint8_t>(planes.red[k % kLanes]);
     }
   });
 }

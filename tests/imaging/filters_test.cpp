@@ -2,6 +2,8 @@
 #include <cmath>
 #include <string>
 
+#include "imaging/filter_grid.h"
+#include "imaging/filter_items.h"
 #include "imaging/hls.h"
 #include "imaging/image_process.h"
 #include "imaging/numbered_fault.h"
@@ -161,6 +163,50 @@ TEST(Filters, RefuseWhatIsNoFilter) {
   process.FilterValue(0, 1, 2000000000);
   EXPECT_TRUE(Raises(FaultKind::Overflow, [&] { process.ProcessImage(source, working); }));
   EXPECT_EQ(Shown(source), before);
+}
+
+// Which image shows a filter in the end, and what the left one of two pixels becomes.
+TEST(Filters, StandInTheOrderOfTheMenu) {
+  std::string told;
+  for (const FilterItem& item : FilterItems()) {
+    cDIBSection source = Grays(2, {100, 240}), working;
+    RandomSeries random;
+    cImageProcessDIB process;
+    if (item.question == FilterQuestion::Kernel) {
+      EXPECT_EQ(TakeGrid(process, GridOfType(kBlur)), GridProblem::None);
+    }
+    item.run(process, {source, working, random}, {{0, 256, 3}, Rgb(255, 0, 0), {0, false}});
+    told += std::string(item.item) + (item.ending == FilterEnding::Foreground ? " F " : " B ");
+    told += Shown(source).substr(0, Shown(source).find(' ')) + "; ";
+  }
+  EXPECT_EQ(told,
+            "customit F 100; greyit F 103; sharpenmoreit F 100; sharptenit F 100; unsharpen F 100; lightenit "
+            "B 120; "
+            "darkenit B 94; negatory B 155; blackwhite B 103; colorizeit B 0/0/200; emobossit F 227; "
+            "Softenit F 100; "
+            "SoftenMoreit F 100; blur2 F 100; blurmore F 100; maxi F 100; minimun F 100; medianit F 100; "
+            "noisie F 100; "
+            "colnoise F 100; ");
+}
+
+TEST(Filters, GridsBecomeTheSmallestKernel) {
+  cImageProcessDIB process;
+  StoredFilter grid = EmptyGrid();
+  EXPECT_EQ(TakeGrid(process, grid), GridProblem::TooSmall);
+  grid.values[24] = 0;
+  EXPECT_EQ(TakeGrid(process, grid), GridProblem::Black);
+  grid.values[25] = 4;   // right of the middle: the pixel above
+  grid.values[38] = -2;  // two below it: two pixels to the right
+  grid.weight = -3;
+  EXPECT_EQ(TakeGrid(process, grid), GridProblem::None);
+  EXPECT_EQ(process.FilterArraySize(), 5);
+  EXPECT_EQ(process.FilterValue(0, 1), 4);
+  EXPECT_EQ(process.FilterValue(2, 0), -2);
+  EXPECT_EQ(process.FilterWeight(), -3);
+  const StoredFilter soft = GridOfType(kSoftenMore);
+  EXPECT_EQ(soft.weight, 44);
+  EXPECT_EQ(soft.values[8], 1);
+  EXPECT_EQ(soft.values[24], 12);
 }
 
 TEST(Filters, TellOfEveryColumnInOrder) {
