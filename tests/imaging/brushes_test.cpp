@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "imaging/canvas.h"
+#include "imaging/palette.h"
 #include "imaging/picture_marks.h"
 #include "imaging/picture_text.h"
 #include "support/harness.h"
@@ -162,6 +163,16 @@ TEST(Canvas, CirclesByTheirRule) {
     }
     EXPECT_EQ(PictureText(picture), PictureText(expected)) << radius << " " << width;
   }
+}
+
+TEST(Canvas, PaletteHoldsHuesAndGrays) {
+  Picture picture(3, 3);
+  PaintPalette(picture);
+  const auto at = [&](int x, int y) { return ColourText(static_cast<Colour>(picture.PixelAt(x, y))); };
+  EXPECT_EQ(at(0, 0) + " " + at(255, 51) + " " + at(77, 59), "255 0 77");
+  EXPECT_EQ(at(0, 17), "255/85/85");  // luminance 2/3, red
+  EXPECT_EQ(at(64, 34), "85/170/0");  // luminance 1/3, between yellow and green
+  EXPECT_EQ(picture.PixelWidth() * 1000 + picture.PixelHeight(), 256060);
 }
 
 // Eight reads, a mean half to even, a write, pixel after pixel.
