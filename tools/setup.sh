@@ -7,7 +7,7 @@ set -euo pipefail
 
 run_packages=(
   build-essential cmake ninja-build            # the compiler and the build
-  qt6-base-dev libpng-dev                   # what the sources include
+  qt6-base-dev libpng-dev libjpeg-dev       # what the sources include
   libegl-dev libopengl-dev libgl-dev           # and OpenGL
   libegl1 libgl1-mesa-dri                      # OpenGL off the screen, with the software driver behind it
   qt6-qpa-plugins libxcb-cursor0               # Qt on an X server

@@ -112,6 +112,12 @@ void Picture::SetPixels(const std::vector<std::uint32_t>& pixels) {
   ++revision_;
 }
 
+PixelGrid Picture::Edit() {
+  Rasterise();
+  ++revision_;
+  return {pixels_.data(), width_, height_};
+}
+
 void Picture::FillGround() const {
   std::fill(pixels_.begin(), pixels_.end(), ground_);
   if (!groundBackdrop_) return;

@@ -44,7 +44,7 @@ struct Backdrop {
 // picture that is cleared and drawn again several times within one event is thus rasterised once.
 class Picture {
  public:
-  static constexpr int kMaxSide = 16384;  // pixels
+  static constexpr int kMaxSide = 32767;  // pixels
 
   // Sides are held in 1..kMaxSide. The scale starts at one unit a pixel.
   Picture(int width, int height);
@@ -102,6 +102,10 @@ class Picture {
   // All pixels, row by row; copies into the picture, as many as it holds.
   const std::vector<std::uint32_t>& Pixels() const;
   void SetPixels(const std::vector<std::uint32_t>& pixels);
+
+  // The pixels to read and write in place, for painting that reads what it has just written. Good until the next
+  // other call of the picture that changes it.
+  PixelGrid Edit();
 
   // Counts the changes, so that a screen knows whether it shows the present picture.
   std::uint64_t Revision() const { return revision_; }

@@ -101,7 +101,7 @@ TEST_F(PictureFiles, ThatAreDamagedDoNoHarm) {
 }
 
 TEST_F(PictureFiles, NeedAKnownEndingThatSaysWhatTheyHold) {
-  for (const char* name : {"a.jpg", "a.png.txt", "png", "missing/a.png"}) {
+  for (const char* name : {"a.jpg", "a.gif", "a.png.txt", "png", "missing/a.png"}) {
     EXPECT_TRUE(Raises(FaultKind::FileError, [&] { SavePicture(Motley(2, 2), folder() / name); })) << name;
     ExpectRefused(folder() / name);
   }
@@ -141,9 +141,68 @@ TEST_F(PictureFiles, OfOtherDepthsAreRead) {
             (Pixels{Rgb(0x40, 0x50, 0x60), 0, Rgb(0x10, 0x20, 0x30), Rgb(0x40, 0x50, 0x60)}));
 }
 
+TEST_F(PictureFiles, OfFewBitsNameTheirColours) {
+  const auto text = [this](const BmpFields& fields, const std::string& rest) {
+    Picture picture(1, 1);
+    LoadPicture(picture, Write("a.bmp", BmpHeader(fields) + rest));
+    std::string numbers;
+    for (const std::uint32_t pixel : picture.Pixels()) numbers += std::to_string(Blue(pixel)) + " ";
+    return numbers;
+  };
+  const std::string two = Little(0x07, 4) + Little(0x09, 4);
+  EXPECT_EQ(text({.pixelsAt = 62, .width = 10, .height = 1, .bits = 1}, two + Little(0x40B1, 4)),
+            "9 7 9 9 7 7 7 9 7 9 ");
+  EXPECT_EQ(text({.pixelsAt = 62, .width = 3, .height = 1, .bits = 4, .colours = 2}, two + Little(0x2010, 4)),
+            "9 7 0 ");
+}
+
+std::string Loaded(const char* name) {
+  Picture picture(1, 1);
+  picture.backColour = Rgb(100, 200, 0);
+  LoadPicture(picture, fs::path(PELORIUM_TESTS_DIR) / "platform/pictures" / name);
+  std::string text = std::to_string(picture.PixelWidth()) + "x" + std::to_string(picture.PixelHeight());
+  for (int place : {0, 1, 2, 8, 15, 22}) {
+    const int i = place % (picture.PixelWidth() * picture.PixelHeight());
+    const auto pixel =
+        static_cast<Colour>(picture.PixelAt(i % picture.PixelWidth(), i / picture.PixelWidth()));
+    text += " " + std::to_string(Red(pixel)) + "/" + std::to_string(Green(pixel)) + "/" +
+            std::to_string(Blue(pixel));
+  }
+  return text;
+}
+
+// Made by another program; what is transparent or not covered shows the ground.
+TEST_F(PictureFiles, OfOtherKindsAreRead) {
+  EXPECT_EQ(Loaded("interlaced.gif"), "5x6 10/250/0 50/250/30 90/250/60 130/210/95 10/130/15 90/90/80");
+  EXPECT_EQ(Loaded("offset.gif"), "6x5 100/200/0 100/200/0 100/200/0 200/10/20 0/0/255 100/200/0");
+  EXPECT_EQ(Loaded("two.ico"), "4x4 9/8/7 150/150/25 150/150/25 150/150/25 150/150/25 150/150/25");
+  EXPECT_EQ(Loaded("gray.jpg"), "8x8 77/77/77 77/77/77 77/77/77 77/77/77 77/77/77 77/77/77");
+  EXPECT_EQ(Loaded("gradient.jpg").substr(0, 13), "24x16 254/0/0");
+}
+
+TEST_F(PictureFiles, OfOtherKindsThatAreDamagedDoNoHarm) {
+  for (const std::string name : {"interlaced.gif", "offset.gif", "two.ico", "gray.jpg"}) {
+    const std::string whole = BytesOf(fs::path(PELORIUM_TESTS_DIR) / "platform/pictures" / name);
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+      for (const std::string& bytes :
+           {whole.substr(0, at), whole.substr(0, at) + '\xFF' + whole.substr(at + 1)}) {
+        Picture picture(2, 2);
+        try {
+          LoadPicture(picture, Write(name, bytes));
+        } catch (const Fault& fault) {
+          EXPECT_EQ(fault.kind(), FaultKind::FileError);
+          EXPECT_EQ(picture.PixelWidth(), 2);
+        }
+      }
+    }
+    ExpectRefused(Write(name, whole.substr(0, whole.size() * 3 / 4)));
+  }
+}
+
 TEST_F(PictureFiles, WithImpossibleHeadersAreRefused) {
   const BmpFields kCases[] = {{.width = 0},
-                              {.width = 16385, .height = 1},
+                              {.width = 32768, .height = 1},
+                              {.width = 32767, .height = 1025},
                               {.width = 0x7FFFFFFF, .height = 0x7FFFFFFF},
                               {.width = 16384, .height = 16384},
                               {.height = 0x80000000},
@@ -153,6 +212,8 @@ TEST_F(PictureFiles, WithImpossibleHeadersAreRefused) {
                               {.pixelsAt = 0},
                               {.pixelsAt = 0xFFFFFFFF},
                               {.bits = 8},
+                              {.pixelsAt = 70, .bits = 1, .colours = 3},
+                              {.pixelsAt = 122, .bits = 4, .colours = 17},
                               {.bits = 8, .colours = 257},
                               {.bits = 8, .colours = 0xFFFFFFFF}};
   for (const BmpFields& fields : kCases) {
