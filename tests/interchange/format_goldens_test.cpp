@@ -2,6 +2,7 @@
 #include "core/profile_file.h"
 #include "core/project_file.h"
 #include "interchange/material_file.h"
+#include "interchange/material_settings.h"
 #include "interchange/obj_export.h"
 #include "interchange/object_info.h"
 #include "interchange/text_part.h"
@@ -107,6 +108,16 @@ TEST_F(Formats, Obj) {
 TEST_F(Formats, MaterialFile) {
   const std::string text = TextOf([&](TextWriter& out) { WriteMaterialFile(model, ".bmp", out); });
   EXPECT_TRUE(Matches(Digest(text, {{1, 56}, {-13, -1}}), "materials.mtl"));
+}
+
+TEST_F(Formats, MaterialSettings) {
+  const std::string text = TextOf([&](TextWriter& out) { WriteMaterialSettings(model, out); });
+  EXPECT_TRUE(Matches(Digest(text, {{1, 24}, {-24, -1}}), "material_settings.txt"));
+  ReadMaterialSettings(read, text);
+  for (int group = 0; group < kMaxGroup; ++group) {
+    ExpectKept(read.MaterialGroups(group), model.MaterialGroups(group), {{}, {"TfG", "TfB", "GroupName"}});
+  }
+  EXPECT_EQ(read.MaterialGroups(kMaxGroup).Ns, MaterialRec().Ns);
 }
 
 TEST_F(Formats, TextPart) {

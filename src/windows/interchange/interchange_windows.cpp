@@ -3,10 +3,12 @@
 
 #include "windows/interchange/form12_dxf_files.h"
 #include "windows/interchange/form14_obj_files.h"
+#include "windows/interchange/material_materials.h"
 #include "windows/shell/app_shell.h"
 
 namespace pelorium {
 
-InterchangeWindows::InterchangeWindows(App& app) : form12(app.Add<Form12>()), form14(app.Add<Form14>()) {}
+InterchangeWindows::InterchangeWindows(App& app)
+    : form12(app.Add<Form12>()), form14(app.Add<Form14>()), material(app.Add<Material>()) {}
 
 }  // namespace pelorium

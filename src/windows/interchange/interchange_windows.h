@@ -10,6 +10,7 @@ struct InterchangeWindows {
 
   class Form12& form12;
   class Form14& form14;
+  class Material& material;
 };
 
 }  // namespace pelorium
