@@ -11,6 +11,9 @@ struct InterchangeWindows {
   class Form12& form12;
   class Form14& form14;
   class Material& material;
+  class Shapes& shapes;
+  class Shapes2& shapes2;
+  class Dialog& dialog;
 };
 
 }  // namespace pelorium
