@@ -19,7 +19,8 @@ const std::vector<const char*> kOrder = {
     "frmSplash",    "MDIForm1",        "Form51",          "Form5",           "Formulas", "Formulas2frm",
     "Formulas3frm", "frmsaveprof",     "editbyface",      "revolveprof",     "Form55",   "freeface",
     "unfold",       "specialeffects1", "specialeffects5", "specialeffects6", "Form31",   "Form12",
-    "Form14",       "material",        "texture",         "helpme",          "frmAbout", "Form36",
+    "Form14",       "uvimportexport",  "convert",         "material",        "shapes",   "shapes2",
+    "Dialog",       "texture",         "helpme",          "frmAbout",        "Form36",
 };
 
 }  // namespace

@@ -3,7 +3,7 @@
 
 #include "base/files.h"
 #include "interchange/preset_list.h"
-#include "windows/interchange/import_obj_part.h"
+#include "windows/interchange/import_obj.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/form51_view_options.h"

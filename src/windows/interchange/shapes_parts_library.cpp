@@ -11,7 +11,7 @@
 #include "interchange/text_part.h"
 #include "windows/interchange/combine_parts.h"
 #include "windows/interchange/import_file.h"
-#include "windows/interchange/import_obj_part.h"
+#include "windows/interchange/import_obj.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
 #include "windows/shell/hooks.h"

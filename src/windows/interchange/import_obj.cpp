@@ -1,7 +1,6 @@
-// Parts from OBJ files.
-#include "windows/interchange/import_obj_part.h"
+// OBJ files into the current Part.
+#include "windows/interchange/import_obj.h"
 
-#include "interchange/obj_import.h"
 #include "windows/interchange/import_file.h"
 #include "windows/interchange/scratch_files.h"
 #include "windows/shell/app_shell.h"
@@ -11,15 +10,19 @@
 
 namespace pelorium {
 
-void ImportObjPart(App& app, const std::filesystem::path& file, double scale) {
+void ImportObj(App& app, const std::filesystem::path& file, const ObjImportSettings& settings) {
   ImportFile(app, file, [&](ByteSource& bytes) {
-    const ObjLines lines = SplitObj(bytes, ObjKind::Plain, false);
+    const ObjLines lines = SplitObj(bytes, settings.kind, settings.offFacesAsOn);
     WriteScratchFiles(app, lines.points.text(), lines.faces.text());
-    ObjImportSettings settings;
-    settings.scale = scale;
-    settings.origin.reset();
     ReadObjLines(app.model, CurrentPart(app), lines, settings);
   });
+}
+
+void ImportObjPart(App& app, const std::filesystem::path& file, double scale) {
+  ObjImportSettings settings;
+  settings.scale = scale;
+  settings.origin.reset();
+  ImportObj(app, file, settings);
   ShowImportedCounts(app);
 }
 
