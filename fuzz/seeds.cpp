@@ -12,8 +12,11 @@
 #include "core/profile_file.h"
 #include "core/project_file.h"
 #include "interchange/dxf_export.h"
+#include "interchange/material_settings.h"
 #include "interchange/obj_export.h"
 #include "interchange/text_part.h"
+#include "interchange/texture_file.h"
+#include "interchange/uvs_file.h"
 #include "interchange/xyz_files.h"
 #include "platform/picture_files.h"
 
@@ -81,6 +84,24 @@ void WriteExchangeSeeds(const std::function<fs::path(const char*)>& folder, cons
   WriteFile(folder("dxf_mesh") / "tetrahedron.dxf", [&](TextWriter& out) { WriteDxfMesh(model, 1, out); });
 }
 
+// A mapped tetrahedron in every kind of file with texture coordinates.
+void WriteUvSeeds(const std::function<fs::path(const char*)>& folder, ModelStore& model) {
+  PartHeader& part = model.Part(1);
+  part.vtcount = part.vtfacecount = 4;
+  for (int i = 1; i <= 4; ++i) {
+    model.Points(1, i).u = i / 8.0;
+    FaceRec& face = model.Faces(1, i);
+    face.vt1 = 1, face.vt2 = 2, face.vt3 = static_cast<std::int16_t>(i);
+  }
+  WriteFile(folder("uvs") / "mapping.uvs", [&](TextWriter& out) { WriteUvs(model, 1, out); });
+  WriteFile(folder("texture") / "mapping.tex", [&](TextWriter& out) { WriteTextureFile(model, out); });
+  ObjExportSettings settings;
+  settings.textureCoordinates = true;
+  WriteFile(folder("obj_uv") / "mapped.obj", [&](TextWriter& out) { WriteObj(model, settings, out); });
+  WriteFile(folder("tuv") / "two.tuv",
+            [](TextWriter& out) { out.Text("1,1,1,1\r\n1 0 0 1 0 0.5 1\r\n").Line("2 0 0 1 0 -1e3 2"); });
+}
+
 // Every look, a bullet, and characters of one to four bytes.
 void WriteTextSeeds(const fs::path& folder) {
   RichText text("plain \\ {x}\ttab\nsecond\n\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
@@ -121,6 +142,10 @@ int main(int argc, char** argv) {
     SyncFaceCorners(model, 1);
     WriteMeshSeeds(folder("text_part"), folder("xyz"), model);
     WriteExchangeSeeds(folder, model);
+    WriteFile(folder("material_settings") / "all.txt",
+              [&](TextWriter& out) { WriteMaterialSettings(model, out); });
+    WriteFile(folder("preset_list") / "list.txt", [](TextWriter& out) { out.Text("cube\r\n\r\nring"); });
+    WriteUvSeeds(folder, model);
     WriteTextSeeds(folder("rich_text"));
     WritePictureSeeds(folder("picture"));
     WriteProfileSeeds(folder("profile"), model);

@@ -40,7 +40,16 @@ double ItemReader::Number() {
   return Placed([this] { return NextNumber(); });
 }
 
+void ItemReader::SkipItem() {
+  Placed([this] { return NextItem(); });
+}
+
 double ItemReader::NextNumber() {
+  const std::string_view item = NextItem();
+  return item.empty() ? 0 : WholeNumber(item);
+}
+
+std::string_view ItemReader::NextItem() {
   SkipBlanksAndLineEnds();
   itemStart_ = text_.size() - rest_.size();
   if (rest_.empty()) throw Fault(FaultKind::EndOfFile, "a number was expected");
@@ -54,7 +63,7 @@ double ItemReader::NextNumber() {
   } else {
     SkipOneLineEnd();
   }
-  return item.empty() ? 0 : WholeNumber(item);
+  return item;
 }
 
 std::string_view ItemReader::Line() {

@@ -25,6 +25,9 @@ class ItemReader {
   // raises BadNumber, the end of the text before an item EndOfFile.
   double Number();
 
+  // Passes over the next item, whatever it is.
+  void SkipItem();
+
   // The next item rounded half to even into an integer field; Overflow outside the field's range.
   template <std::integral Field>
   Field Integer() {
@@ -49,6 +52,7 @@ class ItemReader {
   }
   Fault Place(const Fault& fault);
   double NextNumber();
+  std::string_view NextItem();
   void SkipBlanks();
   void SkipBlanksAndLineEnds();
   bool SkipOneLineEnd();

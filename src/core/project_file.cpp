@@ -3,17 +3,15 @@
 
 #include <algorithm>
 #include <array>
-#include <variant>
 
 #include "base/item_reader.h"
+#include "core/material_items.h"
 #include "core/profile_file.h"
 #include "core/record_lines.h"
 
 namespace pelorium {
 
 namespace {
-
-constexpr int kSavedGroups = 41;  // groups 0..40
 
 using F = FaceRec;
 const std::array<RecordLine<F>, 4> kFaceLines = {{
@@ -26,14 +24,6 @@ const std::array<RecordLine<F>, 4> kFaceLines = {{
                   {&F::group, ItemForm::Exact, 0, kMaxGroup},
                   {&F::onoff}},
 }};
-
-// Each on a line of its own. The three lines of the filter all hold its red: the last one read decides.
-using M = MaterialRec;
-const RecordLine<M> kMaterialItems =
-    Fractions<M>({&M::Ns, &M::d}) + WholeNumbers<M>({&M::illum}) +
-    Fractions<M>({&M::bump_amt, &M::refl_amt, &M::amb_amt, &M::dif_amt, &M::spec_amt, &M::KaR, &M::KaG,
-                  &M::KaB, &M::KdR, &M::KdG, &M::KdB, &M::KsR, &M::KsG, &M::KsB, &M::TfR, &M::TfR, &M::TfR}) +
-    WholeNumbers<M>({&M::usebump, &M::usedif, &M::useamb, &M::usespec});
 
 // Stores a counter within its table and returns the file's own number, which the loops follow.
 int ReadCounter(ItemReader& in, std::int16_t& counter, int limit) {
@@ -88,20 +78,14 @@ void ReadPoints(ModelStore& model, int part, int points, ItemReader& in) {
 }
 
 void WriteMaterial(const MaterialRec& material, TextWriter& out) {
-  for (const RecordItem<M>& item : kMaterialItems) {
-    if (const auto* number = std::get_if<double M::*>(&item.field)) {
-      out.Print(material.**number).EndLine();
-    } else {
-      out.Print(material.*std::get<std::int16_t M::*>(item.field)).EndLine();
-    }
-  }
+  WriteMaterialItems(material, out);
   std::string name = material.GroupName;  // a line end inside would shift every later item
   std::erase_if(name, [](char c) { return c == '\r' || c == '\n'; });
   out.Line(name);
 }
 
 void ReadMaterial(MaterialRec& material, ItemReader& in) {
-  ReadItems(in, material, kMaterialItems);
+  ReadMaterialItems(material, in);
   material.GroupName = in.Line();
 }
 

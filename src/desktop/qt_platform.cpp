@@ -48,6 +48,7 @@ std::string QtPlatform::AskFileName(const FileDialogRequest& request) {
   dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setDefaultSuffix(DefaultSuffix(request.defaultExtension));
+  if (!request.proposedName.empty()) dialog.selectFile(ToQt(request.proposedName));
   std::string chosen;
   runDialog([&] {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;

@@ -14,8 +14,9 @@ constexpr int kFewestFacesForGroup = 2;
 void WriteVertices(const ModelStore& model, int part, const ObjExportSettings& settings, TextWriter& out) {
   const int decimals = settings.scaledDown ? kScaledDecimals : kDecimals;
   const double scale = settings.scaledDown ? kScaleDown : 1;
+  const double depthScale = settings.dialect == ObjDialect::Older ? -scale : scale;
   for (const PointRec& point : PointRange(model, part, 1, model.Part(part).maxpoints)) {
-    out.Text("v ").Rounded(point.X * scale, decimals).Text(" ").Rounded(point.Z * scale, decimals);
+    out.Text("v ").Rounded(point.X * scale, decimals).Text(" ").Rounded(point.Z * depthScale, decimals);
     out.Text(" ").Rounded(point.Y * scale, decimals).EndLine();
   }
 }
@@ -44,12 +45,15 @@ void WritePart(const ModelStore& model, int part, const ObjExportSettings& setti
                TextWriter& out) {
   const PartHeader& header = model.Part(part);
   const bool withMaterials = !settings.materialLibrary.empty();
+  const bool isOlder = settings.dialect == ObjDialect::Older;
   if (header.maxfaces >= kFewestFacesForGroup) {
-    if (settings.groupPerPart) out.Text("g ").Line(header.PartName);
+    if (settings.groupPerPart && isOlder) out.Text("g part").Integer(part).EndLine();
+    if (settings.groupPerPart && !isOlder) out.Text("g ").Line(header.PartName);
     if (withMaterials) WriteUseMaterial(model.Faces(part, 1).group, out);
   }
   for (const FaceRec& face : FaceRange(model, part, FirstFace(model, part), header.maxfaces)) {
-    if (settings.groupPerFace) out.Text("g ").Line(model.MaterialGroups(face.group).GroupName);
+    if (settings.groupPerFace && isOlder) out.Text("g bone_").Integer(face.group).EndLine();
+    if (settings.groupPerFace && !isOlder) out.Text("g ").Line(model.MaterialGroups(face.group).GroupName);
     if (settings.groupPerFace && withMaterials) WriteUseMaterial(face.group, out);
     WriteFaceLine(face, settings.textureCoordinates, offset, out);
   }

@@ -8,6 +8,10 @@
 
 namespace pelorium {
 
+// The older dialect mirrors the depth axis, "v X -Z Y", which keeps the turn of the faces for right-handed
+// readers, and calls its groups "part0" and "bone_3" by their numbers.
+enum class ObjDialect { Present, Older };
+
 struct ObjExportSettings {
   std::string
       materialLibrary;        // the name in the "mtllib" line and with it the "usemtl" lines; empty for none
@@ -15,6 +19,7 @@ struct ObjExportSettings {
   bool groupPerFace = false;  // a "g" line with the group's name before every face
   bool textureCoordinates = false;
   bool scaledDown = false;  // coordinates times 0.001, with 4 decimals instead of 3
+  ObjDialect dialect = ObjDialect::Present;
 };
 
 // The file's second number is the model's Z and the third its Y. Faces are numbered over both Parts; the UV

@@ -2,6 +2,7 @@
 #include "interchange/text_part.h"
 
 #include <algorithm>
+#include <string>
 
 #include "base/item_reader.h"
 
@@ -40,7 +41,12 @@ void ReadFace(ModelStore& model, int part, int number, ItemReader& in) {
   face.onoff = in.Integer<std::int16_t>();
 }
 
-std::int16_t Held(int count, int limit) { return static_cast<std::int16_t>(std::clamp(count, 0, limit)); }
+// A count that no table holds ends the reading before anything of the Part is changed.
+std::int16_t ReadCount(ItemReader& in, int limit) {
+  const auto count = in.Integer<std::int16_t>();
+  if (count < 0 || count > limit) throw Fault(FaultKind::Subscript, "a count of " + std::to_string(count));
+  return count;
+}
 
 }  // namespace
 
@@ -65,17 +71,16 @@ void WriteTextPart(const ModelStore& model, int part, TextWriter& out) {
 
 void ReadTextPart(ModelStore& model, int part, std::string_view text) {
   ItemReader in(text);
+  in.Line();
+  const std::string name(in.Line());
+  in.Line();
+  const auto points = ReadCount(in, kMaxPoints), firstPoint = ReadCount(in, kMaxPoints);
+  const auto faces = ReadCount(in, kMaxFaces), firstFace = ReadCount(in, kMaxFaces);
   PartHeader& header = model.Part(part);
   header.grid.reset();
-  in.Line();
-  header.PartName = in.Line();
-  in.Line();
-  const int points = in.Integer<std::int16_t>();
-  header.minpoints = Held(in.Integer<std::int16_t>(), kMaxPoints);
-  const int faces = in.Integer<std::int16_t>();
-  header.minfaces = Held(in.Integer<std::int16_t>(), kMaxFaces);
-  header.maxpoints = Held(points, kMaxPoints);
-  header.maxfaces = Held(faces, kMaxFaces);
+  header.PartName = name;
+  header.maxpoints = points, header.minpoints = firstPoint;
+  header.maxfaces = faces, header.minfaces = firstFace;
   in.Line();
   for (int i = 1; i <= points; ++i) ReadPoint(model, part, i, in);
   in.Line();

@@ -12,7 +12,8 @@ namespace pelorium {
 void WriteTextPart(const ModelStore& model, int part, TextWriter& out);
 
 // Replaces the Part. The counts in the text decide the loops: a text that does not agree with them raises a
-// fault at its first wrong item, with the records read by then in the Part.
+// fault at its first wrong item, with the records read by then in the Part. Counts that the tables cannot
+// hold leave the Part as it was.
 void ReadTextPart(ModelStore& model, int part, std::string_view text);
 
 }  // namespace pelorium

@@ -15,9 +15,10 @@ class Window;
 struct FileDialogRequest {
   bool save = false;
   std::string title;
-  std::filesystem::path folder;  // where the dialog starts; it may not exist
-  std::string filter;            // "All Files (*.prj)|*.prj": pairs of text and patterns
-  std::string defaultExtension;  // "*.prj": given to a name that has none
+  std::filesystem::path folder;   // where the dialog starts; it may not exist
+  std::string filter;             // "All Files (*.prj)|*.prj": pairs of text and patterns
+  std::string defaultExtension;   // "*.prj": given to a name that has none
+  std::string proposedName = {};  // stands in the dialog when it opens
 };
 
 class Platform {

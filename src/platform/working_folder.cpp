@@ -14,6 +14,7 @@ namespace pelorium {
 namespace {
 
 constexpr const char* kHelpFile = "help.rtf";
+constexpr const char* kStarterFolder = "starter";  // beside the program: a folder for each library with parts
 
 constexpr std::array kSubFolders = {
     "projects",
@@ -68,6 +69,17 @@ bool HoldsSubFolders(const std::filesystem::path& folder) {
   });
 }
 
+// A library that holds nothing yet gets the parts that come with the program.
+void FillLibraries(const std::filesystem::path& folder, const std::filesystem::path& starter) {
+  std::error_code error, ignored;
+  for (std::filesystem::directory_iterator at(starter, error), end; !error && at != end;
+       at.increment(error)) {
+    const std::filesystem::path library = folder / at->path().filename();
+    if (!at->is_directory(ignored) || !std::filesystem::is_empty(library, ignored)) continue;
+    std::filesystem::copy(at->path(), library, std::filesystem::copy_options::recursive, ignored);
+  }
+}
+
 }  // namespace
 
 std::span<const char* const> WorkingSubFolders() { return kSubFolders; }
@@ -91,6 +103,7 @@ void CompleteWorkingFolder(const std::filesystem::path& folder) {
   if (!std::filesystem::exists(folder / kHelpFile, ignored)) {
     std::filesystem::copy_file(help, folder / kHelpFile, ignored);
   }
+  FillLibraries(folder, ExecutableFolder() / kStarterFolder);
 }
 
 }  // namespace pelorium

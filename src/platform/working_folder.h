@@ -19,7 +19,8 @@ std::filesystem::path WorkingFolder(const std::filesystem::path& variable,
                                     const std::filesystem::path& userFolder);
 
 // Makes the folder and the sub-folders that are missing, and lays the help text of the executable's folder
-// into it when it has none. What cannot be made is left out: the windows do without.
+// into it when it has none. A library of parts that is empty gets the parts that come with the program. What
+// cannot be made is left out: the windows do without.
 void CompleteWorkingFolder(const std::filesystem::path& folder);
 
 }  // namespace pelorium

@@ -2,9 +2,12 @@
 #include "core/profile_file.h"
 #include "core/project_file.h"
 #include "interchange/material_file.h"
+#include "interchange/material_settings.h"
 #include "interchange/obj_export.h"
 #include "interchange/object_info.h"
 #include "interchange/text_part.h"
+#include "interchange/texture_file.h"
+#include "interchange/uvs_file.h"
 #include "interchange/xyz_files.h"
 #include "support/harness.h"
 #include "support/numbered_model.h"
@@ -104,9 +107,40 @@ TEST_F(Formats, Obj) {
   EXPECT_TRUE(Matches(TextOf([&](TextWriter& out) { WriteObj(model, all, out); }), "everything.obj"));
 }
 
+TEST_F(Formats, OlderObj) {
+  ObjExportSettings all = {"materialfile.mtl", true, true, true, true};
+  all.dialect = ObjDialect::Older;
+  EXPECT_TRUE(Matches(TextOf([&](TextWriter& out) { WriteObj(model, all, out); }), "older.obj"));
+}
+
+// The numbered counts of the mapping are larger than the tables of this small model are filled.
+TEST_F(Formats, TextureFileAndUvs) {
+  for (int part = 0; part < kUserParts; ++part) {
+    model.Part(part).vtcount = model.Part(part).maxpoints;
+    model.Part(part).vtfacecount = model.Part(part).maxfaces;
+  }
+  const std::string text = TextOf([&](TextWriter& out) { WriteTextureFile(model, out); });
+  EXPECT_TRUE(Matches(text, "mapping.tex"));
+  ReadTextureFile(read, text);
+  EXPECT_EQ(TextOf([&](TextWriter& out) { WriteTextureFile(read, out); }), text);
+  const std::string uvs = TextOf([&](TextWriter& out) { WriteUvs(model, 1, out); });
+  EXPECT_TRUE(
+      Matches(uvs + TextOf([&](TextWriter& out) { WriteTopViewAsUvs(model, 1, out); }), "mapping.uvs"));
+}
+
 TEST_F(Formats, MaterialFile) {
   const std::string text = TextOf([&](TextWriter& out) { WriteMaterialFile(model, ".bmp", out); });
   EXPECT_TRUE(Matches(Digest(text, {{1, 56}, {-13, -1}}), "materials.mtl"));
+}
+
+TEST_F(Formats, MaterialSettings) {
+  const std::string text = TextOf([&](TextWriter& out) { WriteMaterialSettings(model, out); });
+  EXPECT_TRUE(Matches(Digest(text, {{1, 24}, {-24, -1}}), "material_settings.txt"));
+  ReadMaterialSettings(read, text);
+  for (int group = 0; group < kMaxGroup; ++group) {
+    ExpectKept(read.MaterialGroups(group), model.MaterialGroups(group), {{}, {"TfG", "TfB", "GroupName"}});
+  }
+  EXPECT_EQ(read.MaterialGroups(kMaxGroup).Ns, MaterialRec().Ns);
 }
 
 TEST_F(Formats, TextPart) {

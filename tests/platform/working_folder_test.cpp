@@ -25,11 +25,17 @@ TEST_F(WorkingFolderTest, IsMadeCompleteAndLeftAsItIs) {
   EXPECT_EQ(WorkingSubFolders().size(), 29u);
   for (const char* name : WorkingSubFolders())
     EXPECT_TRUE(std::filesystem::is_directory(home / name)) << name;
+  EXPECT_TRUE(std::filesystem::exists(home / "parts0" / "presetlist.txt"));
+  EXPECT_TRUE(std::filesystem::exists(home / "parts2" / "torus.txt"));
+  std::filesystem::remove(home / "parts2" / "torus.txt");
+  std::filesystem::remove_all(home / "parts3");
   WriteBytes(home / "help.rtf", "mine");
   WriteBytes(home / "projects" / "a.prj", "kept");
   CompleteWorkingFolder(home);
   EXPECT_EQ(BytesOf(home / "help.rtf"), "mine");
   EXPECT_EQ(BytesOf(home / "projects" / "a.prj"), "kept");
+  EXPECT_FALSE(std::filesystem::exists(home / "parts2" / "torus.txt"));  // a library in use is left alone
+  EXPECT_TRUE(std::filesystem::exists(home / "parts3" / "star.obj"));
 }
 
 }  // namespace

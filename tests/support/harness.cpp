@@ -29,12 +29,14 @@ std::string_view LineAt(std::string_view text, std::size_t at) {
 TemporaryFolder::TemporaryFolder() {
   std::string name = (std::filesystem::temp_directory_path() / "pelorium tëst XXXXXX").string();
   if (mkdtemp(name.data()) == nullptr) throw Fault(FaultKind::FileError, name);
-  path_ = name;
+  outer_ = name;
+  path_ = outer_ / "größe";
+  std::filesystem::create_directory(path_);
 }
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
+  std::filesystem::remove_all(outer_, ignored);
 }
 
 void FailingSink::Write(std::string_view bytes) {

@@ -15,8 +15,8 @@
 
 namespace pelorium {
 
-// A folder that is removed with all it holds. Its name has blanks and letters beyond ASCII, as folders of
-// real people have.
+// A folder that is removed with all it holds, and with what was written right beside it. Its name has blanks
+// and letters beyond ASCII, as folders of real people have.
 class TemporaryFolder {
  public:
   TemporaryFolder();
@@ -27,7 +27,7 @@ class TemporaryFolder {
   const std::filesystem::path& path() const { return path_; }
 
  private:
-  std::filesystem::path path_;
+  std::filesystem::path outer_, path_;
 };
 
 class FolderTest : public ::testing::Test {

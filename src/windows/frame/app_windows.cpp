@@ -3,6 +3,7 @@
 #include "windows/frame/frame_windows.h"
 #include "windows/frame/mdi_form1.h"
 #include "windows/geometry/geometry_windows.h"
+#include "windows/imaging/imaging_windows.h"
 #include "windows/interchange/interchange_windows.h"
 #include "windows/profiles/profiles_windows.h"
 #include "windows/shell/app_shell.h"
@@ -18,7 +19,8 @@ const std::vector<const char*> kOrder = {
     "frmSplash",    "MDIForm1",        "Form51",          "Form5",           "Formulas", "Formulas2frm",
     "Formulas3frm", "frmsaveprof",     "editbyface",      "revolveprof",     "Form55",   "freeface",
     "unfold",       "specialeffects1", "specialeffects5", "specialeffects6", "Form31",   "Form12",
-    "Form14",       "helpme",          "frmAbout",        "Form36",
+    "Form14",       "uvimportexport",  "convert",         "material",        "shapes",   "shapes2",
+    "Dialog",       "texture",         "helpme",          "frmAbout",        "Form36",
 };
 
 }  // namespace
@@ -28,6 +30,7 @@ void BuildWindows(App& app) {
   app.profiles = std::make_shared<ProfileWindows>(app);
   app.geometry = std::make_shared<GeometryWindows>(app);
   app.facetools = std::make_shared<FacetoolWindows>(app);
+  app.imaging = std::make_shared<ImagingWindows>(app);
   app.interchange = std::make_shared<InterchangeWindows>(app);
   app.frame = std::make_shared<FrameWindows>(app);
   app.links.pressMenuItem = [&app](std::string_view name) {

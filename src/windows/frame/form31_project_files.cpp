@@ -6,6 +6,7 @@
 #include "core/project_file.h"
 #include "interchange/object_info.h"
 #include "interchange/text_part.h"
+#include "interchange/texture_file.h"
 #include "interchange/xyz_files.h"
 #include "windows/profiles/formulas_edit_profile.h"
 #include "windows/profiles/profiles_windows.h"
@@ -25,6 +26,10 @@ FileDialogRequest ProjectDialog(bool save, const char* title) {
   return {save, title, "projects", "All Files (*.prj)|*.prj", "*.prj"};
 }
 
+FileDialogRequest TextureDialog(bool save, const char* title) {
+  return {save, title, "textures", "All Files (*.tex)|*.tex", "*.tex"};
+}
+
 }  // namespace
 
 Form31::Form31(App& app) : ToolWindow(app, "Form31", "Save /Open Project ") {
@@ -39,9 +44,9 @@ Form31::Form31(App& app) : ToolWindow(app, "Form31", "Save /Open Project ") {
   OnFile(Command1, [this] { Command1_Click(); });
   OnFile(Command3, [this] { ImportPart(ReadSeparateFaces); });
   OnFile(Command4, [this] { ImportPart(ReadTextPart); });
-  // Texture coordinates have their files in a window that is still to come.
-  Command11.SetEnabled(false);
-  Command9.SetEnabled(false);
+  OnEdit(
+      Command11, [this] { Command11_Click(); }, kRefreshOnly);
+  OnFile(Command9, [this] { Command9_Click(); });
   BrowseInto(Dir1, File1, Text1);
   BrowseInto(Dir2, File2, Text2);
   SetLayout(DeclareLayout());
@@ -83,6 +88,22 @@ void Form31::Command15_Click() {
   FollowSections(app_);
   app_.view->form51.ShowProfile();
   RefreshViews(app_);
+}
+
+void Form31::Command9_Click() {
+  const auto name = AskFileName(app_, TextureDialog(true, "Save texture file (.tex file)"));
+  if (name.empty()) return;
+  SaveFile(app_, name, [this](TextWriter& out) { WriteTextureFile(app_.model, out); });
+}
+
+void Form31::Command11_Click() {
+  const auto name = AskFileName(app_, TextureDialog(false, "Open texture file (.tex file)"));
+  if (name.empty()) return;
+  OpenFile(app_, name, [this](std::string_view text) {
+    ReadTextureFile(app_.model, text);
+    return std::to_string(app_.model.Part(0).vtcount) + " and " + std::to_string(app_.model.Part(1).vtcount) +
+           " UV points";
+  });
 }
 
 void Form31::ExportInfo(const char* title, const FileWriter& write) {

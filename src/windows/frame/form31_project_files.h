@@ -26,8 +26,8 @@ class Form31 : public ToolWindow {
   PushButton Command15{*this, "Command15", "Open Project"};
   PushButton Command12{*this, "Command12", "export obj info (all Part#s)"};
   PushButton Command13{*this, "Command13", "export part info (chosen part#)"};
-  PushButton Command11{*this, "Command11", "Open Texture UV maps"};
-  PushButton Command9{*this, "Command9", "Save Texture UV maps"};
+  PushButton Command11{*this, "Command11", "Open Texture UV maps", "the mapping of both Parts"};
+  PushButton Command9{*this, "Command9", "Save Texture UV maps", "the mapping of both Parts"};
 
   TextBox Text1{*this, "Text1", "", "file that is written, and read by the profile buttons"};
   DirList Dir1{*this, "Dir1"};
@@ -51,6 +51,8 @@ class Form31 : public ToolWindow {
  private:
   void Command14_Click();
   void Command15_Click();
+  void Command9_Click();
+  void Command11_Click();
   void Command12_Click();
   void Command13_Click();
   void Command5_Click();

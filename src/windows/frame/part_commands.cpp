@@ -9,7 +9,8 @@
 #include "geometry/disjoin.h"
 #include "geometry/subdivide.h"
 #include "windows/geometry/weld_seam.h"
-#include "windows/interchange/combine_parts.h"
+#include "windows/interchange/interchange_windows.h"
+#include "windows/interchange/shapes_parts_library.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/follow_sections.h"
@@ -32,6 +33,15 @@ void SwitchFaceRange(App& app, bool on) {
   SwitchFaces(app.model, CurrentPart(app), FaceRangeStart(app), FaceRangeEnd(app), on);
 }
 
+// The library's scale goes to its smallest, and stays there; Combine itself scales nothing.
+void PressCombine(App& app, bool erases) {
+  Shapes& shapes = app.interchange->shapes;
+  shapes.Check2.SetValue(erases);
+  shapes.HScroll1.SetValue(1);
+  shapes.HScroll2.SetValue(CurrentPart(app));
+  shapes.Command9.Press();
+}
+
 }  // namespace
 
 void CopyToBuffer(App& app) { CopyPart(app.model, CurrentPart(app), kBufferPart); }
@@ -46,8 +56,8 @@ void PasteBufferInto(App& app) {
   FollowPasted(app);
 }
 
-void CombineAll(App& app) { CombineIntoCurrent(app, OtherParts::Stay); }
-void CombineAllAndErase(App& app) { CombineIntoCurrent(app, OtherParts::AreErased); }
+void CombineAll(App& app) { PressCombine(app, false); }
+void CombineAllAndErase(App& app) { PressCombine(app, true); }
 
 void EraseAll(App& app) {
   for (int part = 0; part < kParts; ++part) ErasePart(app.model, part);

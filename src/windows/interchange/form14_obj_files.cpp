@@ -6,11 +6,10 @@
 #include "interchange/obj_export.h"
 #include "windows/interchange/import_file.h"
 #include "windows/interchange/scratch_files.h"
+#include "windows/interchange/uv_commands.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
-#include "windows/view/form5_precise_edit.h"
 #include "windows/view/shared_parameters.h"
-#include "windows/view/view_windows.h"
 
 namespace pelorium {
 
@@ -24,11 +23,7 @@ Form14::Form14(App& app) : ToolWindow(app, "Form14", "Import/Export Obj  (.obj)"
   OnFile(Command25, [this] { Import(ObjKind::Plain, "All Files (*.obj)|*.obj"); });
   OnFile(Command1, [this] { Import(ObjKind::WithSlashes, "All Files (*.obj*)|*.obj*"); });
   OnFile(Command26, [this] { Command26_Click(); });
-  BindLegacyExports();
-  for (Control* uvButton : std::initializer_list<Control*>{&Command2, &Command3, &Command4, &Command5,
-                                                           &Command6, &Command17, &Command7, &Command16}) {
-    uvButton->SetEnabled(false);
-  }
+  BindUvButtons();
   BrowseInto(Dir1, File1, Text13);
   SetLayout(DeclareLayout());
 }
@@ -48,6 +43,33 @@ LayoutItem Form14::DeclareLayout() {
       Single(sizesNote),
       Single(treesNote),
   });
+}
+
+// All of them work on the file named in Text13.
+void Form14::BindUvButtons() {
+  const auto onMapping = [this](PushButton& button, const UvFormat& format) {
+    OnEdit(
+        button, [this, &format] { ImportUvs(app_, Text13.text(), format); }, kRefreshOnly);
+  };
+  onMapping(Command2, kUvsFormat);
+  onMapping(Command6, kObjFormat);
+  onMapping(Command17, kObjFormatOf3);
+  const auto onModel = [this](PushButton& button, const UvFormat& format) {
+    OnFile(button, [this, &format] { ImportMap(format); });
+  };
+  onModel(Command3, kUvsFormat);
+  onModel(Command7, kObjFormat);
+  onModel(Command16, kObjFormatOf3);
+  OnFile(Command4, [this] { ExportUvs(app_, Text13.text()); });
+  OnFile(Command5, [this] { ExportTopViewAsUvs(app_, Text13.text()); });
+}
+
+// Only the file of the UV mapper gives the Part its name.
+void Form14::ImportMap(const UvFormat& format) {
+  const std::filesystem::path file = Text13.text();
+  if (&format == &kUvsFormat) app_.model.Part(CurrentPart(app_)).PartName = file.filename().string();
+  ImportUvsAsModel(app_, file, format, HScroll2.Number());
+  Label1.SetCaption(ImportedCounts(app_));
 }
 
 void Form14::Load() {
@@ -93,47 +115,6 @@ void Form14::Command26_Click() {
   settings.textureCoordinates = Check5.value();
   settings.scaledDown = Check12.value();
   ExportFile(app_, name, [&](TextWriter& out) { WriteObj(app_.model, settings, out); });
-}
-
-// Command8, 15 and 18 do nothing.
-void Form14::BindLegacyExports() {
-  for (Control* hidden :
-       std::initializer_list<Control*>{&Command10, &Command11, &Command12, &Command13, &Command14, &Command9,
-                                       &Command15, &Command18, &Command8}) {
-    hidden->SetVisible(false);
-  }
-  for (PushButton* button : {&Command10, &Command14}) {
-    OnFile(*button, [this] { ExportCells(CellFaces::Forward, true, true); });
-  }
-  OnFile(Command11, [this] {
-    RoundProfilePoints(app_.model, 2);
-    ExportCells(CellFaces::Backward, true, false);
-  });
-  OnFile(Command12, [this] { ExportCells(CellFaces::None, false, false); });
-  OnFile(Command13, [this] { ExportFile(app_, Text13.text(), [](TextWriter&) {}); });
-  OnFile(Command9, [this] { Command9_Click(); });
-}
-
-GridExportSettings Form14::ReadGridSettings(bool withGroups, bool withCaps) const {
-  const Form5& ranges = app_.view->form5;
-  GridExportSettings settings;
-  settings.grid = HeldInTable(
-      {ranges.HScroll1.value(), ranges.HScroll2.value(), PointRangeStart(app_), PointRangeEnd(app_)});
-  settings.groupPerLayer = withGroups && Check2.value();
-  if (withCaps) settings.cappedProfile = CurrentProfile(app_);
-  return settings;
-}
-
-void Form14::ExportCells(CellFaces faces, bool withGroups, bool withCaps) {
-  const GridExportSettings settings = ReadGridSettings(withGroups, withCaps);
-  ExportFile(app_, Text13.text(),
-             [&](TextWriter& out) { WriteSeparateCells(app_.model, settings, faces, out); });
-}
-
-void Form14::Command9_Click() {
-  RoundProfilePoints(app_.model, 3);
-  const GridExportSettings settings = ReadGridSettings(true, false);
-  ExportFile(app_, Text13.text(), [&](TextWriter& out) { WriteJoinedCells(app_.model, settings, out); });
 }
 
 }  // namespace pelorium

@@ -5,8 +5,8 @@
 #include "controls/buttons.h"
 #include "controls/lists.h"
 #include "controls/text_box.h"
-#include "interchange/legacy_obj_export.h"
 #include "interchange/obj_import.h"
+#include "windows/interchange/legacy_exports.h"
 #include "windows/shell/tool_window.h"
 
 namespace pelorium {
@@ -65,7 +65,7 @@ class Form14 : public ToolWindow {
                        "image", false,     "kind of image that the material file names"};
   PushButton Command26{*this, "Command26", "Export ", "exports obj as wavefront Obj file format"};
 
-  // The UV files. They act on the file named in Text13; disabled until they work.
+  // The UV files. They act on the file named in Text13.
   PushButton Command2{*this, "Command2", "Import uvs file ",
                       "imports uvmapper uvs into current model obj for texture mapping into current part#"};
   PushButton Command3{*this, "Command3", "Import uvs as model obj",
@@ -82,31 +82,14 @@ class Form14 : public ToolWindow {
   PushButton Command16{*this, "Command16", "import texture uvs as part# (max 5 obj)",
                        "imports texture uvs from max obj file format into a model object part"};
 
-  // The first exports, of the profiles as a grid, to the file named in Text13. They stay hidden.
-  PushButton Command10{*this, "Command10", "Export obj  (.obj)",
-                       "exports as obj file format ( faces not joined)"};
-  PushButton Command11{*this, "Command11", "save ",
-                       "the cells of the profiles, which are rounded to 2 decimals"};
-  PushButton Command12{*this, "Command12", "save obj only",
-                       "saves as obj as vertices first, then face succession "};
-  PushButton Command13{*this, "Command13", "save stored", "an empty file"};
-  PushButton Command14{*this, "Command14", "Export stored+obj",
-                       "saves as obj stored and obj into one file for export"};
-  PushButton Command9{*this, "Command9", "save -seamless quads", "saves as seemless obj (faces are welded)"};
-  PushButton Command15{*this, "Command15", "save deconstruct", kNothingTip};
-  PushButton Command18{*this, "Command18", "        save          ( sep faces) ", kNothingTip};
-  PushButton Command8{*this, "Command8", "cac normals", kNothingTip};
+  LegacyExports legacy{*this, app_, Text13, Check2};
 
  private:
-  static constexpr const char* kNothingTip = "does nothing";
-
   void Check2_Click();
   void Command26_Click();
   void Import(ObjKind kind, const char* filter);
-  void BindLegacyExports();
-  GridExportSettings ReadGridSettings(bool withGroups, bool withCaps) const;
-  void ExportCells(CellFaces faces, bool withGroups, bool withCaps);
-  void Command9_Click();
+  void BindUvButtons();
+  void ImportMap(const struct UvFormat& format);
   LayoutItem DeclareLayout();
 };
 

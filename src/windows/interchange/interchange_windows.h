@@ -10,6 +10,12 @@ struct InterchangeWindows {
 
   class Form12& form12;
   class Form14& form14;
+  class UvImportExport& uvimportexport;
+  class Convert& convert;
+  class Material& material;
+  class Shapes& shapes;
+  class Shapes2& shapes2;
+  class Dialog& dialog;
 };
 
 }  // namespace pelorium

@@ -28,9 +28,10 @@ void WriteScratchFile(const App& app, std::string_view name, std::string_view te
 
 }  // namespace
 
-void WriteScratchFiles(const App& app, std::string_view vectors, std::string_view faces) {
-  WriteScratchFile(app, "vectors.txt", vectors);
-  WriteScratchFile(app, "faces.txt", faces);
+void WriteScratchFiles(const App& app, std::string_view vectors, std::string_view faces,
+                       const std::string& ending) {
+  WriteScratchFile(app, "vectors" + ending + ".txt", vectors);
+  WriteScratchFile(app, "faces" + ending + ".txt", faces);
 }
 
 }  // namespace pelorium

@@ -27,6 +27,7 @@ class ToolWindow;
 struct FacetoolWindows;
 struct FrameWindows;
 struct GeometryWindows;
+struct ImagingWindows;
 struct InterchangeWindows;
 struct ProfileWindows;
 struct ViewWindows;
@@ -120,6 +121,7 @@ class App {
   std::shared_ptr<ProfileWindows> profiles;
   std::shared_ptr<GeometryWindows> geometry;
   std::shared_ptr<FacetoolWindows> facetools;
+  std::shared_ptr<ImagingWindows> imaging;
   std::shared_ptr<InterchangeWindows> interchange;
   std::shared_ptr<FrameWindows> frame;
 };

@@ -20,12 +20,12 @@ std::string SizeOf(const std::filesystem::path& file) {
   return bytes < kKilobyte ? GeneralForm(bytes) + " bytes" : RoundedForm(bytes / kKilobyte, 0) + " KB";
 }
 
+}  // namespace
+
 void TellWritten(App& app, const std::filesystem::path& file, const std::string& what) {
   app.ReloadFileLists();
   app.notices.Give(what + " " + file.filename().string() + ", " + SizeOf(file), NoticeKind::Result);
 }
-
-}  // namespace
 
 std::filesystem::path AskFileName(App& app, FileDialogRequest request) {
   request.folder = app.applicationPath / request.folder;
@@ -37,6 +37,13 @@ std::filesystem::path AskFileName(App& app, FileDialogRequest request) {
 
 std::filesystem::path FileNamed(const App& app, const std::filesystem::path& name) {
   return app.applicationPath / name;
+}
+
+std::filesystem::path BesideWorkingFolder(const App& app, std::string_view tail) {
+  std::filesystem::path path = app.applicationPath;
+  if (!path.has_filename()) path = path.parent_path();  // of "/opt/app/"
+  path += tail;
+  return path;
 }
 
 void SaveFile(App& app, const std::filesystem::path& name, const FileWriter& write, const std::string& what) {

@@ -23,6 +23,13 @@ std::filesystem::path AskFileName(App& app, FileDialogRequest request);
 // The file that a name stands for, typed or chosen: a relative one lies under the application path.
 std::filesystem::path FileNamed(const App& app, const std::filesystem::path& name);
 
+// The working folder's own name with `tail` set right behind it, and no separator between: a file beside the
+// folder.
+std::filesystem::path BesideWorkingFolder(const App& app, std::string_view tail);
+
+// The notice of a written file, "`what` name, 143 KB"; the lists of files follow.
+void TellWritten(App& app, const std::filesystem::path& file, const std::string& what);
+
 // Writing a file and telling of it: the lists of files follow, and the notice says "`what` name, 143 KB".
 // SaveFile puts the new file in place of the old one when it is complete; ExportFile writes in place.
 void SaveFile(App& app, const std::filesystem::path& name, const FileWriter& write,

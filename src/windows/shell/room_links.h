@@ -11,6 +11,8 @@
 
 namespace pelorium {
 
+class PictureBox;
+
 enum class Cap { Bottom, Top, Start, End };
 
 // How points are picked in the view.
@@ -38,6 +40,8 @@ struct RoomLinks {
 
   // A click while the view draws a mesh together: its next point, at X, Y of the model.
   std::function<void(double x, double y)> addMeshPoint;
+  // imaging
+  std::function<PictureBox&()> foreground, background;  // of the image maker
 
   // facetools
   std::function<void(int face)> chooseFace;
