@@ -71,7 +71,7 @@ DecodedImage ReadIco(std::string_view bytes, Colour ground) {
     if (entry.Rank() > best.Rank()) best = entry;
   }
   const std::string_view image = PartOf(bytes, best.at, best.size);
-  if (image.substr(1, 3) == "PNG") return ReadPng(image, ground);
+  if (image.starts_with("\x89PNG")) return ReadPng(image, ground);
   const DibLayout layout = ReadDibLayout(image, 0, true);
   DecodedImage decoded = ReadDibRows(image, layout, layout.infoEnd);
   if (layout.bitsPerPixel == 32 && ShowGroundByAlpha(decoded, image.substr(layout.infoEnd), layout, ground)) {

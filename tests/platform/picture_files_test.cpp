@@ -197,6 +197,8 @@ TEST_F(PictureFiles, OfOtherKindsThatAreDamagedDoNoHarm) {
     }
     ExpectRefused(Write(name, whole.substr(0, whole.size() * 3 / 4)));
   }
+  std::string icon = BytesOf(fs::path(PELORIUM_TESTS_DIR) / "platform/pictures/two.ico");
+  ExpectRefused(Write("empty.ico", icon.replace(30, 4, 4, '\0')));  // the largest image has no bytes
 }
 
 TEST_F(PictureFiles, WithImpossibleHeadersAreRefused) {
