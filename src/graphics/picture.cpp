@@ -39,7 +39,7 @@ void Picture::SetScale(double scaleWidth, double scaleHeight) {
 void Picture::Resize(int width, int height) {
   width_ = std::clamp(width, 1, kMaxSide);
   height_ = std::clamp(height, 1, kMaxSide);
-  pixels_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), backColour);
+  pixels_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
   Clear();
 }
 
@@ -107,7 +107,13 @@ const std::vector<std::uint32_t>& Picture::Pixels() const {
 }
 
 void Picture::SetPixels(const std::vector<std::uint32_t>& pixels) {
-  Rasterise();
+  if (pixels.size() < pixels_.size()) {
+    Rasterise();
+  } else {  // all that was there is replaced
+    calls_.clear();
+    cleared_ = false;
+    source_ = nullptr;
+  }
   std::copy_n(pixels.begin(), std::min(pixels.size(), pixels_.size()), pixels_.begin());
   ++revision_;
 }

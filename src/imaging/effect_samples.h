@@ -72,7 +72,10 @@ class Stamper {
  public:
   explicit Stamper(Picture& target) : target_(target), grid_(target.Edit()) {}
 
-  void Dot(Pixel at) { RasteriseDot(grid_, at, target_.drawWidth, target_.foreColour); }
+  void Dot(Pixel at) {
+    if (target_.drawWidth <= 1) return WritePixel(grid_, at, target_.foreColour);  // the most frequent one
+    RasteriseDot(grid_, at, target_.drawWidth, target_.foreColour);
+  }
   void Box(Pixel at, int side) { FillSquare(grid_, at, side, target_.foreColour); }
   void Circle(Pixel at, int radius);
   void Write(Pixel at, Colour colour) { WritePixel(grid_, at, colour); }
