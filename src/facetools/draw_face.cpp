@@ -75,6 +75,10 @@ class TextBlock {
     return static_cast<std::size_t>(picture_.PixelWidth() / CellOf(size_).width);
   }
   void Line(const std::string& text, Colour colour = Rgb(224, 224, 224)) {
+    for (const Pixel& shift :
+         {Pixel{-1, 0}, {1, 0}, {0, -1}, {0, 1}}) {  // so that it reads on the triangle's edges
+      picture_.Text({shift.x, y_ + shift.y}, text, picture_.backColour, size_);
+    }
     picture_.Text({0, y_}, text, colour, size_);
     y_ += CellOf(size_).height;
   }

@@ -116,11 +116,12 @@ class PatternMaker {
       : settings_(settings), pieces_(CollectPieces(model, settings)) {
     flat_ = EdgesOf(pieces_.all, &Piece::flat);
     MatchEdges(flat_, shared_);
-    if (!pieces_.areFolded) return;
-    MatchEdges(EdgesOf(pieces_.all, &Piece::folded), glued_);
-    for (PlacedEdge& edge : flat_) {
-      edge.tolerance += std::min(kUnfoldingGrain * Length(Minus(edge.to, edge.from)), kMostGrain);
+    if (!pieces_.areFolded) {
+      ShareWhatUnfoldingLays();
+      return;
     }
+    MatchEdges(EdgesOf(pieces_.all, &Piece::folded), glued_);
+    for (PlacedEdge& edge : flat_) edge.tolerance = GrainOf(edge);
     MatchEdges(flat_, shared_);
   }
 
@@ -143,6 +144,33 @@ class PatternMaker {
   const Piece& PieceOf(int edge) const { return pieces_.all[At(flat_[At(edge)].owner)]; }
   PatternPlace OnPaper(const Vec3& place) const {
     return {place.X * settings_.mmPerUnit, place.Y * settings_.mmPerUnit};
+  }
+
+  static double GrainOf(const PlacedEdge& edge) {
+    return kSamePlace + std::min(kUnfoldingGrain * Length(Minus(edge.to, edge.from)), kMostGrain);
+  }
+
+  // Of an odd face the edge c-a lies on b-c of the next face, and b-c on a-b of the next pair's second one.
+  void ShareWhatUnfoldingLays() {
+    for (int p = 0; p < static_cast<int>(pieces_.all.size()); ++p) {
+      if (pieces_.all[At(p)].face % 2 == 0) continue;
+      ShareIfNear(p, 2, 1, 1);
+      ShareIfNear(p, 1, 3, 0);
+    }
+  }
+
+  // The side of piece `p` with the other side of the piece whose face is `further` on.
+  void ShareIfNear(int p, int side, int further, int otherSide) {
+    const int face = pieces_.all[At(p)].face + further;
+    int q = p + 1;
+    while (q < static_cast<int>(pieces_.all.size()) && pieces_.all[At(q)].face < face) ++q;
+    if (q == static_cast<int>(pieces_.all.size()) || pieces_.all[At(q)].face != face) return;
+    const int edge = kCorners * p + side, other = kCorners * q + otherSide;
+    if (shared_[At(edge)] != kNoMatch || shared_[At(other)] != kNoMatch) return;
+    const PlacedEdge &e = flat_[At(edge)], &f = flat_[At(other)];
+    if (!AreOnePlace(e.from, f.to, GrainOf(e)) || !AreOnePlace(e.to, f.from, GrainOf(e))) return;
+    shared_[At(edge)] = other;
+    shared_[At(other)] = edge;
   }
 
   // On which side of each face's plane the other one lay, seen from the printed side.

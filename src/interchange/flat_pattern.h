@@ -50,11 +50,13 @@ struct FlatPattern {
 };
 
 // Edges of two faces that lie on the same two places within 0.01 units are one fold, all others are cut.
+// Those that unfolding lays on each other, by their numbers, may miss each other by its grain (steps of 0.1
+// degree).
 //
 // While the temporary Part holds as many points as the Part, it tells where the faces lay before they were
-// unfolded. Then folds are mountains or valleys; edges that lie within the grain of the unfolding (steps of
-// 0.1 degree) of each other are one fold, too; and two cut edges that were one get the same number. A flat
-// triangle is its face seen from behind: its corner 1 is the face's corner 2 and the reverse.
+// unfolded. Then folds are mountains or valleys; any edges within the grain of each other are one fold; and
+// two cut edges that were one get the same number. A flat triangle is its face seen from behind: its corner 1
+// is the face's corner 2 and the reverse.
 //
 // Tabs stand on cut edges, of two that get glued on one only, and never over a face or another tab.
 FlatPattern MakeFlatPattern(const ModelStore& model, const PatternSettings& settings);

@@ -127,7 +127,7 @@ TEST_F(FaceTools, ThePictureHoldsTheTriangleInItsColours) {
   EXPECT_EQ(picture.PixelAt(10, 189),
             static_cast<int>(Rgb(255, 80, 80)));  // corner 1: nine tenths of the side
   EXPECT_EQ(picture.PixelAt(189, 189), static_cast<int>(Rgb(80, 230, 80)));  // corner 2
-  EXPECT_EQ(picture.PixelAt(10, 9), static_cast<int>(Rgb(110, 140, 255)));   // corner 3
+  EXPECT_EQ(picture.PixelAt(10, 8), static_cast<int>(Rgb(110, 140, 255)));   // corner 3
   EXPECT_EQ(picture.PixelAt(100, 189), static_cast<int>(Rgb(255, 80, 80)));  // edge 1-2
   for (const int side : {1, 20}) {
     Picture small(side, side);

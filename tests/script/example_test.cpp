@@ -40,7 +40,7 @@ std::string Kept(const fs::path& file) {
 class Examples : public FolderTest, public ::testing::WithParamInterface<std::string> {
  protected:
   Examples() : old_(fs::current_path()), app(platform, home()) {
-    for (const char* name : {"projects", "objs", "objinfo", "images"}) fs::create_directories(home() / name);
+    for (const char* name : {"projects", "objs", "objinfo", "images", "patterns"}) fs::create_directories(home() / name);
     app.drawsAtOnce = std::getenv("PELORIUM_DRAW_AT_ONCE") != nullptr;
     fs::create_directory_symlink(kExamples, folder() / "examples");
     fs::current_path(home());

@@ -6,6 +6,7 @@
 
 #include "app_fixture.h"
 #include "base/numbers.h"
+#include "interchange/flat_pattern.h"
 #include "platform/picture_files.h"
 #include "support/model_text.h"
 #include "windows/facetools/editbyface_face_info.h"
@@ -140,6 +141,15 @@ TEST_F(FaceWindows, AStripIsUnfoldedPairByPair) {
   EXPECT_EQ(FaceRangeEnd(app), 8);
   EXPECT_EQ(Origin(app).X, Val(GeneralForm(app.model.Points(0, 14).X)));
   EXPECT_TRUE(app.faults.TakeAll().empty());
+
+  // One piece of paper: its inner edges are folds though they miss each other by the grain of the sweep.
+  PatternSettings settings;
+  settings.lastFace = 8;
+  const FlatPattern pattern = MakeFlatPattern(app.model, settings);
+  EXPECT_EQ(std::count_if(pattern.lines.begin(), pattern.lines.end(),
+                          [](const PatternLine& line) { return line.kind == PatternLineKind::Fold; }),
+            7);
+  EXPECT_EQ(pattern.lines.size(), 17U);
 
   unfold.Check2.SetValue(true);
   EXPECT_EQ(unfold.VScroll2.smallChange, 1);
