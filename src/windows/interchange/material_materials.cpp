@@ -117,13 +117,19 @@ LayoutItem Material::FieldFrame(const char* title, PictureBox* swatch) const {
 
 LayoutItem Material::DeclareLayout() {
   return Column({
-      Frame("Material Group#   Group Name", {BarRow(HScroll1, {&Text26})}),
-      Row({Column({FieldFrame(kDiffuse, &Picture2), FieldFrame(kAmbient, &Picture1),
-                   FieldFrame(kSpecular, &Picture3), FieldFrame(kFilter, &Picture4)}),
-           Column({FieldFrame(kSurface), FieldFrame(kChannels), Single(note), FieldFrame(kMaps),
-                   Flow({&Command3}), Frame("All materials", {Flow({&Command1, &Command2})}),
-                   Frame("Save foreground Image from Imagemaker as map",
-                         {Flow({&Option1, &Option2, &Option3, &Option4}), Flow({&Command4, &Command5})})})}),
+      Frame("Material Group#   Group Name", {BarRow(HScroll1), Single(Text26)}),
+      FieldFrame(kDiffuse, &Picture2),
+      FieldFrame(kAmbient, &Picture1),
+      FieldFrame(kSpecular, &Picture3),
+      FieldFrame(kFilter, &Picture4),
+      FieldFrame(kSurface),
+      FieldFrame(kChannels),
+      Single(note),
+      FieldFrame(kMaps),
+      Flow({&Command3}),
+      Frame("All materials", {Flow({&Command1, &Command2})}),
+      Frame("Save foreground Image from Imagemaker as map",
+            {Flow({&Option1, &Option2, &Option3, &Option4}), Flow({&Command4, &Command5})}),
   });
 }
 

@@ -63,10 +63,9 @@ LayoutItem PartsLibrary::DeclareLayout(Kind kind) {
   part.push_back(Flow({&Command1, &Command6}));
   const LayoutItem files =
       kind == Kind::Obj ? Flow({&Command2, &Command8, &Command7, &Check1}) : Flow({&Command22, &Command21});
-  return Row({Column({Frame("Folder", {Flow(folders), Row({Single(Dir1), Single(File1)})}),
-                      Frame("File", {Labelled("File", Text11), Labelled("Name for saving", Text14), files}),
-                      Frame("Part", part), Frame("Combine", {Flow({&Command9, &Check2})})}),
-              panel.Layout()});
+  return Column({Frame("Folder", {Flow(folders), Row({Single(Dir1), Single(File1)})}),
+                 Frame("File", {Labelled("File", Text11), Labelled("Name for saving", Text14), files}),
+                 Frame("Part", part), Frame("Combine", {Flow({&Command9, &Check2})}), panel.Layout()});
 }
 
 void PartsLibrary::BindFolders(PushButton& importer) {
