@@ -222,7 +222,9 @@ class PatternMaker {
     hasTab_.assign(flat_.size(), false);
     double sum = 0;
     for (const PlacedEdge& edge : flat_) sum += Length(Minus(edge.to, edge.from)) * settings_.mmPerUnit;
-    room_.emplace(std::max(sum / static_cast<double>(std::max<std::size_t>(1, flat_.size())), kSamePlace));
+    const double mean = sum / static_cast<double>(std::max<std::size_t>(1, flat_.size()));
+    room_.emplace(std::max(mean, kSamePlace),
+                  std::max(kSamePlace * settings_.mmPerUnit, kUnfoldingGrain * mean));
     for (const Piece& piece : pieces_.all) {
       room_->Take({OnPaper(piece.flat[0]), OnPaper(piece.flat[1]), OnPaper(piece.flat[2])});
     }

@@ -8,7 +8,6 @@ namespace pelorium {
 
 namespace {
 
-constexpr double kTouch = 0.01;   // millimetres that shapes may lie over each other and only touch
 constexpr long kMostCells = 400;  // of one shape
 constexpr double kFarthestCell = 1e9;
 
@@ -42,11 +41,11 @@ double GapAcrossSidesOf(const PatternShape& shape, const PatternShape& other) {
   return widest;
 }
 
-bool Overlap(const PatternShape& a, const PatternShape& b) {
-  return GapAcrossSidesOf(a, b) < -kTouch && GapAcrossSidesOf(b, a) < -kTouch;
-}
-
 }  // namespace
+
+bool TakenRoom::Overlap(const PatternShape& a, const PatternShape& b) const {
+  return GapAcrossSidesOf(a, b) < -touch_ && GapAcrossSidesOf(b, a) < -touch_;
+}
 
 TakenRoom::Cells TakenRoom::CellsOf(const PatternShape& shape) const {
   const auto [left, right] = std::minmax_element(

@@ -15,11 +15,12 @@ using PatternShape = std::vector<PatternPlace>;
 // Shapes that take room on the paper.
 class TakenRoom {
  public:
-  // `cell` is about the size of the shapes, in millimetres.
-  explicit TakenRoom(double cell) : cell_(cell) {}
+  // Millimetres: `cell` is about the size of the shapes; what lies less than `touch` over another only
+  // touches it.
+  TakenRoom(double cell, double touch) : cell_(cell), touch_(touch) {}
 
   void Take(const PatternShape& shape);
-  // True when none of those covers part of it; touching is no covering.
+  // True when none of those covers part of it.
   bool IsFree(const PatternShape& shape) const;
 
  private:
@@ -29,7 +30,9 @@ class TakenRoom {
   Cells CellsOf(const PatternShape& shape) const;
   static bool AreMany(const Cells& cells);
 
-  double cell_;
+  bool Overlap(const PatternShape& a, const PatternShape& b) const;
+
+  double cell_, touch_;
   std::vector<PatternShape> shapes_;
   std::unordered_map<long, std::vector<std::size_t>> byCell_;
   std::vector<std::size_t> large_;  // over more cells than are worth keeping
