@@ -13,6 +13,16 @@ struct MouseEvent {
   Keys keys;
 };
 
+// The wheel turned over a picture, away from the person counting up.
+struct WheelEvent {
+  static constexpr int kMostSteps = 100;  // either way
+  int steps = 0;
+  float x = 0, y = 0;
+  Keys keys;
+};
+
+class ScrollBar;
+
 class PictureBox : public Control {
  public:
   PictureBox(Window& owner, std::string name, int pixelWidth, int pixelHeight, std::string toolTip = {});
@@ -28,8 +38,8 @@ class PictureBox : public Control {
   // The shapes over it, which are no pixels.
   std::vector<OverlayShape>& overlay() { return picture_.overlay; }
 
-  // The pixels no longer show what they should: onDraw paints them when someone looks, or at DrawStale. A box without
-  // onDraw never is stale.
+  // The pixels no longer show what they should: onDraw paints them when someone looks, or at DrawStale. A box
+  // without onDraw never is stale.
   void MarkStale();
   void DrawStale();
   bool isStale() const { return isStale_; }
@@ -42,6 +52,12 @@ class PictureBox : public Control {
   void SetOwnValue(const PropertyValue&) override {}
 
   std::function<void(const MouseEvent&)> onMouseDown, onMouseMove, onMouseUp;
+  std::function<void(const WheelEvent&)> onWheel;
+
+  // The bars that a person moves by dragging the picture with the middle button: a unit for a unit.
+  ScrollBar* panAcross = nullptr;
+  ScrollBar* panUp = nullptr;
+
   // The box was given that many pixels; without a handler the picture just gets the new size.
   std::function<void(int pixelWidth, int pixelHeight)> onResize;
 

@@ -8,12 +8,15 @@
 namespace pelorium {
 
 enum class UserAction {
-  Press,        // a click
-  Drag,         // a scroll bar moved to `value`, or a list's entry `value` chosen
-  Type,         // a text box's text replaced by `text`
+  Press,  // a click
+  Drag,   // a scroll bar moved to `value`, or a list's entry `value` chosen
+  Type,   // a text box's text replaced by `text`
   DoubleClick,
-  Key,          // the first character of `text`
-  MouseDown, MouseMove, MouseUp,  // on a picture at x, y in its user units
+  Key,  // the first character of `text`
+  MouseDown,
+  MouseMove,
+  MouseUp,      // on a picture at x, y in its user units
+  Wheel,        // turned by `value` steps over a picture at x, y, away from the person counting up
   Resize,       // a picture given width x height pixels
   CloseWindow,  // the window itself; `control` is empty
 };

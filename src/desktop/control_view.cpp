@@ -62,6 +62,8 @@ class InputFilter : public QObject {
 
   void OnKey(const QKeyEvent& event) {
     if (!control_.onKey || event.text().isEmpty() || !event.text().at(0).isPrint()) return;
+    if (event.modifiers().testFlag(Qt::ControlModifier) || event.modifiers().testFlag(Qt::AltModifier))
+      return;
     UserEvent key = EventFor(control_, UserAction::Key);
     key.text = FromQt(event.text());
     dispatcher_.Deliver(key);

@@ -5,7 +5,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QWheelEvent>
 #include <cmath>
+#include <utility>
+
+#include "controls/scroll_bar.h"
 
 namespace pelorium {
 
@@ -120,6 +124,7 @@ UserEvent PictureWidget::MouseEventAt(UserAction action, QPoint pixel, const Cli
 }
 
 void PictureWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::MiddleButton) BeginPan(PixelOf(*event));
   if (!IsTold(*event)) return;
   place_ = PixelOf(*event);
   if (ListensToMouse()) dispatcher_.Deliver(MouseEventAt(UserAction::MouseDown, place_, ClickOf(*event)));
@@ -135,6 +140,7 @@ void PictureWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
   const QPoint pixel = PixelOf(*event);
+  if (pan_) return Pan(pixel);
   if (!box_.onMouseMove || pixel == place_) return;
   place_ = pixel;
   moveClick_ = ClickOf(*event);
@@ -147,7 +153,40 @@ bool PictureWidget::ListensToMouse() const { return box_.onMouseDown || box_.onM
 
 UserEvent PictureWidget::TakeMove() { return MouseEventAt(UserAction::MouseMove, place_, moveClick_); }
 
+void PictureWidget::BeginPan(QPoint pixel) {
+  if (box_.panAcross == nullptr || box_.panUp == nullptr) return;
+  pan_ = PanStart{pixel, box_.panAcross->value(), box_.panUp->value()};
+}
+
+// The picture keeps to the mouse: a bar's unit is a unit of the picture.
+void PictureWidget::Pan(QPoint pixel) {
+  const Picture& picture = box_.measures();
+  const double across = picture.ToUserX(pixel.x()) - picture.ToUserX(pan_->pixel.x());
+  const double up = picture.ToUserY(pixel.y()) - picture.ToUserY(pan_->pixel.y());
+  for (auto [bar, value] : {std::pair{box_.panAcross, pan_->across + across}, {box_.panUp, pan_->up + up}}) {
+    UserEvent drag = EventFor(*bar, UserAction::Drag);
+    drag.value = bar->Clamped(value);
+    if (drag.value != bar->value()) dispatcher_.Deliver(drag);
+  }
+}
+
+// Whole steps only; a touch pad sends many small turns.
+void PictureWidget::wheelEvent(QWheelEvent* event) {
+  constexpr int kStep = 120;
+  if (!box_.onWheel) return event->ignore();
+  wheelLeft_ += event->angleDelta().y();
+  const int steps = wheelLeft_ / kStep;
+  wheelLeft_ -= steps * kStep;
+  if (steps == 0) return;
+  const QPoint pixel = event->position().toPoint();
+  UserEvent turn = MouseEventAt(UserAction::Wheel, pixel, {MouseButton::Left, KeysHeld(event->modifiers())});
+  turn.value = steps;
+  turn.click.keys.alt = false;
+  dispatcher_.Deliver(turn);
+}
+
 void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::MiddleButton) pan_.reset();
   if (!IsTold(*event)) return;
   place_ = PixelOf(*event);
   if (ListensToMouse()) dispatcher_.Deliver(MouseEventAt(UserAction::MouseUp, place_, ClickOf(*event)));

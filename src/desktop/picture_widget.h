@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <vector>
 
 #include "controls/picture_box.h"
@@ -28,6 +29,7 @@ class PictureWidget : public QWidget, public ControlView {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
@@ -54,6 +56,8 @@ class PictureWidget : public QWidget, public ControlView {
   bool ListensToMouse() const;
   UserEvent TakeMove();
   UserEvent TakeResize();
+  void BeginPan(QPoint pixel);
+  void Pan(QPoint pixel);
   void DrawOverlay(QPainter& painter) const;
   void FitToPicture();
 
@@ -63,6 +67,13 @@ class PictureWidget : public QWidget, public ControlView {
   PendingResize pendingResize_{*this};
   QPoint place_{-1, -1};  // of the mouse, when last told
   Click moveClick_;
+  // A drag with the middle button: where it began, and the bars' values then.
+  struct PanStart {
+    QPoint pixel;
+    int across = 0, up = 0;
+  };
+  std::optional<PanStart> pan_;
+  int wheelLeft_ = 0;  // eighths of a degree that make no whole step yet
   bool wasShown_ = false;
   std::uint64_t shownRevision_ = 0;
   std::vector<OverlayShape> shownOverlay_;

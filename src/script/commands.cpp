@@ -115,6 +115,7 @@ constexpr Command kCommands[] = {
     {"key", 0, kAnyNumber, {}, Event},
     {"mouse", 0, kAnyNumber, {}, Event},
     {"resize", 0, kAnyNumber, {}, Event},
+    {"wheel", 0, kAnyNumber, {}, Event},
     {"answer", 1, 1, "FILE", Answer},
     {"cancel", 0, 0, "", Cancel},
     {"modal", 1, 1, "WINDOW", Modal},

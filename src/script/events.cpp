@@ -70,6 +70,14 @@ void ReadMouse(UserEvent& event, std::span<const std::string> words) {
   event.click = ClickOf(words.subspan(3));
 }
 
+void ReadWheel(UserEvent& event, std::span<const std::string> words) {
+  event.value = NumberWord(words[0], "steps");
+  if (event.value != RoundHalfEven(event.value)) throw ScriptError("steps must be whole, not " + words[0]);
+  event.x = SingleWord(words[1], "X");
+  event.y = SingleWord(words[2], "Y");
+  event.click = ClickOf(words.subspan(3));
+}
+
 int SideOf(const std::string& word, const char* what) {
   const int side = IntegerWord(word, what);
   if (side <= 0) throw ScriptError(std::string(what) + " must be above 0, not " + word);
@@ -97,6 +105,7 @@ constexpr Verb kVerbs[] = {
     {"key", UserAction::Key, "CONTROL CHAR", 1, 1, ReadKey},
     {"mouse", UserAction::MouseMove, "PICTURE down|move|up X Y [left|right] [shift] [ctrl] [alt]", 3, 7,
      ReadMouse},
+    {"wheel", UserAction::Wheel, "PICTURE STEPS X Y [shift] [ctrl]", 3, 5, ReadWheel},
     {"resize", UserAction::Resize, "PICTURE W H", 2, 2, ReadResize},
 };
 
@@ -147,6 +156,7 @@ bool Applies(UserAction action, const Control& control) {
     case UserAction::MouseDown:
     case UserAction::MouseMove:
     case UserAction::MouseUp:
+    case UserAction::Wheel:
     case UserAction::Resize:
       return control.kind() == ControlKind::PictureBox;
     case UserAction::CloseWindow:

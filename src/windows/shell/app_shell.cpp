@@ -37,6 +37,14 @@ bool Mouse(Control& control, const UserEvent& event) {
   });
 }
 
+bool Wheel(Control& control, const UserEvent& event) {
+  return On<PictureBox>(control, [&](PictureBox& box) {
+    constexpr double kMost = WheelEvent::kMostSteps;
+    const int steps = ToInteger<int>(std::clamp(event.value, -kMost, kMost));
+    if (box.onWheel) box.onWheel({steps, event.x, event.y, event.click.keys});
+  });
+}
+
 // False when the event does not apply to that kind of control.
 bool DeliverTo(Control& control, const UserEvent& event) {
   switch (event.action) {
@@ -59,6 +67,8 @@ bool DeliverTo(Control& control, const UserEvent& event) {
     case UserAction::MouseMove:
     case UserAction::MouseUp:
       return Mouse(control, event);
+    case UserAction::Wheel:
+      return Wheel(control, event);
     case UserAction::CloseWindow:
       return false;
   }

@@ -59,6 +59,9 @@ std::string ScriptLine(const UserEvent& event) {
       return MouseLine("move", place, event);
     case UserAction::MouseUp:
       return MouseLine("up", place, event);
+    case UserAction::Wheel:
+      return "wheel " + place + " " + ShortestForm(event.value) + " " + ShortestForm(event.x) + " " +
+             ShortestForm(event.y) + ClickWords(event.click, false);
     case UserAction::Resize:
       return "resize " + place + " " + std::to_string(event.width) + " " + std::to_string(event.height);
     case UserAction::CloseWindow:

@@ -2,6 +2,7 @@
 #include "windows/view/form36_view.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <utility>
@@ -16,6 +17,7 @@
 #include "windows/view/shaded_view.h"
 #include "windows/view/shared_parameters.h"
 #include "windows/view/view_windows.h"
+#include "windows/view/view_zoom.h"
 
 namespace pelorium {
 
@@ -55,6 +57,9 @@ Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mo
   Picture1.onMouseUp = [this](const MouseEvent&) { mouse.Up(); };
   Picture1.onDraw = [this](Picture& picture) { Paint(picture); };
   Picture1.onResize = [this](int width, int height) { Picture1_Resize(width, height); };
+  Picture1.onWheel = [this](const WheelEvent& wheel) { TurnWheelOverView(app_, wheel); };
+  Picture1.panAcross = &HScroll1;
+  Picture1.panUp = &VScroll1;
   Picture1.onKey = [this](char character) { Picture1_KeyPress(character); };
   Picture1.picture().SetScale(15, -15);
   Picture2.picture().backColour = Rgb(0, 0, 0);
@@ -157,9 +162,24 @@ void Form36::Picture1_KeyPress(char character) {
     case '-':
       if (Zoom(Picture1.picture(), kZoomOutGently)) RefreshViews(app_);
       return;
+    case '+':
+    case '=':
+      return ZoomInGently(app_);
+    case 'f':
+      return FitModel(app_);
     default:
-      return;
+      return ChooseViewByKey(character);
   }
+}
+
+// The views by number.
+void Form36::ChooseViewByKey(char character) {
+  Form51& options = app_.view->form51;
+  OptionButton* const views[] = {&options.Option1, &options.Option5, &options.Option2, &options.Option6,
+                                 &options.Option4, nullptr,          &options.Option16};
+  const int number = character - '1';
+  if (number < 0 || number >= static_cast<int>(std::size(views))) return;
+  views[number] == nullptr ? options.Command2.Press({}) : views[number]->SetValue(true);
 }
 
 void Form36::Redraw(Content content) {

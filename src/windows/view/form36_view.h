@@ -115,6 +115,7 @@ class Form36 : public ToolWindow {
   void Paint(Picture& picture);
   void Picture1_Resize(int pixelWidth, int pixelHeight);
   void Picture1_KeyPress(char character);
+  void ChooseViewByKey(char character);
   void ResetView();
   void MakePoseButtons();
   void MoveBackground();
