@@ -28,8 +28,8 @@ class PictureBox : public Control {
   // The shapes over it, which are no pixels.
   std::vector<OverlayShape>& overlay() { return picture_.overlay; }
 
-  // The pixels no longer show what they should: onDraw paints them when someone looks, or at DrawStale. A box without
-  // onDraw never is stale.
+  // The pixels no longer show what they should: onDraw paints them when someone looks, or at DrawStale. A box
+  // without onDraw never is stale.
   void MarkStale();
   void DrawStale();
   bool isStale() const { return isStale_; }
@@ -40,6 +40,9 @@ class PictureBox : public Control {
 
   PropertyValue Value() const override { return name(); }
   void SetOwnValue(const PropertyValue&) override {}
+
+  // The button of the last press that was not let go yet: what a move carries that tells of none.
+  MouseButton heldButton = MouseButton::None;
 
   std::function<void(const MouseEvent&)> onMouseDown, onMouseMove, onMouseUp;
   // The box was given that many pixels; without a handler the picture just gets the new size.
