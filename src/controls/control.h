@@ -11,13 +11,26 @@ namespace pelorium {
 class Window;
 
 enum class ControlKind {
-  ScrollBar, TextBox, Label, PushButton, CheckBox, OptionButton, PictureBox, ListBox, FileList, DirList,
-  ProgressBar, RichTextBox, MenuItem, Frame, Shape,
+  ScrollBar,
+  TextBox,
+  Label,
+  PushButton,
+  CheckBox,
+  OptionButton,
+  PictureBox,
+  ListBox,
+  FileList,
+  DirList,
+  ProgressBar,
+  RichTextBox,
+  MenuItem,
+  Frame,
+  Shape,
 };
 
 std::string_view ControlKindName(ControlKind kind);
 
-enum class MouseButton { Left, Right };
+enum class MouseButton { Left, Right, None };  // None: a mouse that moves with no button held
 
 struct Keys {
   bool shift = false, ctrl = false, alt = false;

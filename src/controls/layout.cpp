@@ -31,6 +31,10 @@ LayoutItem Flow(std::vector<Control*> controls) { return {LayoutKind::Flow, {}, 
 
 LayoutItem Single(Control& control) { return {LayoutKind::Single, {}, {&control}, {}}; }
 
+LayoutItem Pane(std::initializer_list<Control*> pictures) {
+  return {LayoutKind::Pane, {}, pictures, {}, true};
+}
+
 LayoutItem Upright(Control& bar) {
   LayoutItem item = Single(bar);
   item.isUpright = true;

@@ -18,12 +18,13 @@ enum class LayoutKind {
   BarRow,  // a label, a scroll bar and the text box that shows its value; aligned with the bar rows around it
   Flow,    // small controls (buttons, ticks) in rows that wrap where the window ends
   Single,  // one control
+  Pane,    // pictures that lie over each other in the room that is left, each at its own left and top
 };
 
 struct LayoutItem {
   LayoutKind kind = LayoutKind::Column;
   std::string title;               // of a Frame; the label of a BarRow or of a labelled Single
-  std::vector<Control*> controls;  // of a BarRow, a Flow or a Single
+  std::vector<Control*> controls;  // of a BarRow, a Flow, a Single or a Pane
   std::vector<LayoutItem> items;   // of a Column, a Row or a Frame
   bool stretches = false;          // takes the room that is left over
   std::string toolTip = {};        // of a Frame
@@ -40,6 +41,7 @@ LayoutItem BarRow(Control& bar, std::initializer_list<Control*> boxes = {});
 LayoutItem Flow(std::initializer_list<Control*> controls);
 LayoutItem Flow(std::vector<Control*> controls);
 LayoutItem Single(Control& control);
+LayoutItem Pane(std::initializer_list<Control*> pictures);
 // A bar from top to bottom, beside the picture that it moves.
 LayoutItem Upright(Control& bar);
 // A control with a text before it, aligned like a bar row.

@@ -51,6 +51,9 @@ class PictureBox : public Control {
   PropertyValue Value() const override { return name(); }
   void SetOwnValue(const PropertyValue&) override {}
 
+  // The button of the last press that was not let go yet: what a move carries that tells of none.
+  MouseButton heldButton = MouseButton::None;
+
   std::function<void(const MouseEvent&)> onMouseDown, onMouseMove, onMouseUp;
   std::function<void(const WheelEvent&)> onWheel;
 

@@ -28,13 +28,13 @@ Window& Needed(App& app, WindowRole role) {
 }  // namespace
 
 Face::Face(App& app, Dispatcher& dispatcher)
-    : app_(app), dispatcher_(dispatcher), builder_(dispatcher, views_) {
+    : app_(app), dispatcher_(dispatcher), menus_(dispatcher), builder_(dispatcher, views_, menus_) {
   app_.host.listener = this;
   dispatcher_.onDelivered = [this] { Refresh(); };
   dispatcher_.onDelivering = [this] { frame_->ForgetFault(); };
   Window& frameWindow = Needed(app, WindowRole::Frame);
   Window& splashWindow = Needed(app, WindowRole::Splash);
-  frame_ = std::make_unique<MainWindow>(frameWindow, dispatcher_);
+  frame_ = std::make_unique<MainWindow>(frameWindow, dispatcher_, menus_);
   app_.notices.onNotice = [this](const std::string& text, NoticeKind kind) {
     frame_->ShowNotice(text, kind);
   };
@@ -91,7 +91,7 @@ void Face::Refresh() {
 void Face::RefreshControls() {
   for (Control* control : std::exchange(changedControls_, {})) {
     if (control->kind() == ControlKind::MenuItem) {
-      frame_->SyncMenuItem(*control);
+      menus_.Sync(*control);
     } else if (const auto found = views_.find(control); found != views_.end()) {
       found->second->Sync();
     }

@@ -10,6 +10,7 @@
 #include "desktop/dispatcher.h"
 #include "desktop/layout_builder.h"
 #include "desktop/main_window.h"
+#include "desktop/menu_actions.h"
 #include "desktop/splash_window.h"
 #include "desktop/window_view.h"
 
@@ -47,6 +48,7 @@ class Face : public ControlListener {
   App& app_;
   Dispatcher& dispatcher_;
   ViewMap views_;
+  MenuActions menus_;
   LayoutBuilder builder_;
   std::unique_ptr<MainWindow> frame_;
   std::unique_ptr<SplashWindow> splash_;

@@ -7,6 +7,8 @@
 #include "desktop/bar_widget.h"
 #include "desktop/flow_layout.h"
 #include "desktop/label_widgets.h"
+#include "desktop/menu_actions.h"
+#include "desktop/picture_widget.h"
 #include "desktop/qt_text.h"
 #include "desktop/view_factory.h"
 
@@ -79,8 +81,20 @@ QWidget* LayoutBuilder::Build(const Window& window, QWidget* parent) {
   const bool isDeclared = !layout.items.empty() || !layout.controls.empty();
   auto* around = WithoutMargins(new QVBoxLayout(content));
   around->setContentsMargins(6, 6, 6, 6);
-  around->addWidget(isDeclared ? Make(layout, content) : MakeFlow(window.controls(), content));
+  if (QWidget* menus = MakeMenus(window, content)) around->addWidget(menus);
+  around->addWidget(isDeclared ? Make(layout, content) : MakeFlow(window.controls(), content), 1);
   return content;
+}
+
+// The menus of a page wrap where it ends: a bar would hide those that do not fit.
+QWidget* LayoutBuilder::MakeMenus(const Window& window, QWidget* parent) {
+  const std::vector<MenuItem*> heads = TopLevelItems(window);
+  if (heads.empty()) return nullptr;
+  auto* holder = new QWidget(parent);
+  FlowLayout* layout = MakeFlowLayout(holder);
+  layout->setSpacing(0);
+  for (MenuItem* head : heads) layout->addWidget(menus_.MakeButton(*head, holder));
+  return holder;
 }
 
 QWidget* LayoutBuilder::Make(const LayoutItem& item, QWidget* parent) {
@@ -93,6 +107,8 @@ QWidget* LayoutBuilder::Make(const LayoutItem& item, QWidget* parent) {
       return MakeFrame(item, parent);
     case LayoutKind::Flow:
       return MakeFlow(item.controls, parent);
+    case LayoutKind::Pane:
+      return MakePane(item, parent);
     case LayoutKind::BarRow:
     case LayoutKind::Single:
       break;
@@ -198,6 +214,13 @@ QWidget* LayoutBuilder::MakeFlow(const std::vector<Control*>& controls, QWidget*
   FlowLayout* layout = MakeFlowLayout(holder);
   for (Control* control : controls) layout->addWidget(MakeControl(*control, holder));
   return holder;
+}
+
+// No layout: the pictures place themselves.
+QWidget* LayoutBuilder::MakePane(const LayoutItem& item, QWidget* parent) {
+  auto* pane = new PicturePane(parent);
+  for (Control* picture : item.controls) MakeControl(*picture, pane);
+  return pane;
 }
 
 QWidget* LayoutBuilder::MakeControl(Control& control, QWidget* parent, Qt::Orientation orientation) {

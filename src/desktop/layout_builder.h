@@ -11,10 +11,13 @@
 
 namespace pelorium {
 
+class MenuActions;
+
 class LayoutBuilder {
  public:
   // Views that are built are entered into `views`.
-  LayoutBuilder(Dispatcher& dispatcher, ViewMap& views) : dispatcher_(dispatcher), views_(views) {}
+  LayoutBuilder(Dispatcher& dispatcher, ViewMap& views, MenuActions& menus)
+      : dispatcher_(dispatcher), views_(views), menus_(menus) {}
 
   // A widget with everything the window's layout names; a window without a layout shows all its controls in a
   // flow.
@@ -22,10 +25,12 @@ class LayoutBuilder {
 
  private:
   QWidget* Make(const LayoutItem& item, QWidget* parent);
+  QWidget* MakeMenus(const Window& window, QWidget* parent);
   QWidget* MakeColumn(const std::vector<LayoutItem>& items, QWidget* column);
   QWidget* MakeRow(const LayoutItem& item, QWidget* parent);
   QWidget* MakeFrame(const LayoutItem& item, QWidget* parent);
   QWidget* MakeWrappedFrame(const LayoutItem& item, QWidget* parent);
+  QWidget* MakePane(const LayoutItem& item, QWidget* parent);
   QWidget* MakeFlow(const std::vector<Control*>& controls, QWidget* parent);
   QWidget* MakeStandAlone(const LayoutItem& item, QWidget* parent);
   void AddLabelled(const LayoutItem& item, QGridLayout& grid, int row, QWidget* column);
@@ -34,6 +39,7 @@ class LayoutBuilder {
 
   Dispatcher& dispatcher_;
   ViewMap& views_;
+  MenuActions& menus_;
 };
 
 }  // namespace pelorium

@@ -13,6 +13,7 @@
 
 #include "controls/user_event.h"
 #include "desktop/dispatcher.h"
+#include "desktop/menu_actions.h"
 #include "desktop/panel_area.h"
 #include "desktop/qt_text.h"
 #include "desktop/window_view.h"
@@ -26,15 +27,15 @@ constexpr int kNumberedWindows = 9;
 
 }  // namespace
 
-MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher)
-    : frame_(frame), dispatcher_(dispatcher), notice_(*new QLabel(this)), area_(*new PanelArea(this)) {
+MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher, MenuActions& menus)
+    : frame_(frame),
+      dispatcher_(dispatcher),
+      notice_(*new QLabel(this)),
+      area_(*new PanelArea(this)),
+      menus_(menus) {
   setObjectName(ToQt(frame.name()));
   setCentralWidget(&area_);
-  for (Control* control : frame.controls()) {
-    if (control->kind() != ControlKind::MenuItem) continue;
-    auto& item = static_cast<MenuItem&>(*control);
-    if (item.isTopLevel()) AddMenu(item, *menuBar());
-  }
+  for (MenuItem* head : TopLevelItems(frame)) menus_.Add(*head, *menuBar());
   statusBar()->setSizeGripEnabled(true);
   notice_.setObjectName("notice");
   notice_.setTextFormat(Qt::PlainText);
@@ -43,32 +44,6 @@ MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher)
   const QSize screen = QGuiApplication::primaryScreen()->availableSize();
   resize(kComfortableFrame.boundedTo(screen * 0.95));
   SyncFrame();
-}
-
-void MainWindow::AddMenu(MenuItem& item, QWidget& bar) {
-  QAction* action = nullptr;
-  if (item.children().empty()) {
-    action = new QAction(this);
-    connect(action, &QAction::triggered, this, [this, &item] { dispatcher_.Press(item, {}); });
-  } else {
-    auto* menu = new QMenu(this);
-    menu->setToolTipsVisible(true);
-    for (MenuItem* child : item.children()) AddMenu(*child, *menu);
-    action = menu->menuAction();
-  }
-  action->setObjectName(ToQt(item.FullName()));
-  bar.addAction(action);
-  menu_[&item] = action;
-  SyncMenuItem(item);
-}
-
-void MainWindow::SyncMenuItem(const Control& item) {
-  const auto found = menu_.find(&item);
-  if (found == menu_.end()) return;
-  QAction& action = *found->second;
-  action.setText(ToQt(item.caption()));
-  action.setEnabled(item.enabled());
-  action.setVisible(item.visible());
 }
 
 void MainWindow::ShowNotice(const std::string& text, NoticeKind kind) {
@@ -105,9 +80,9 @@ void MainWindow::PutWindowsInOrder() { area_.PutInOrder(); }
 
 // The windows' menu ends with those that are open.
 void MainWindow::ListWindows() {
-  const auto found = menu_.find(frame_.windowsMenu());
-  if (found == menu_.end()) return;
-  QMenu& menu = *found->second->menu();
+  const QAction* head = menus_.ActionOf(frame_.windowsMenu());
+  if (head == nullptr) return;
+  QMenu& menu = *head->menu();
   for (QAction* action : std::exchange(windowActions_, {})) delete action;
   windowActions_.push_back(menu.addSeparator());
   int number = 0;

@@ -2,10 +2,8 @@
 #pragma once
 
 #include <QMainWindow>
-#include <unordered_map>
 #include <vector>
 
-#include "controls/buttons.h"
 #include "controls/window.h"
 #include "windows/shell/notices.h"
 
@@ -15,18 +13,18 @@ class QLabel;
 namespace pelorium {
 
 class Dispatcher;
+class MenuActions;
 class PanelArea;
 class WindowView;
 
 class MainWindow : public QMainWindow {
  public:
-  MainWindow(Window& frame, Dispatcher& dispatcher);
+  MainWindow(Window& frame, Dispatcher& dispatcher, MenuActions& menus);
 
   // Shows or hides the window as it says; brings it to the front at each Show.
   void Sync(WindowView& view);
   void PutWindowsInOrder();
   void SyncFrame();
-  void SyncMenuItem(const Control& item);
 
   // In the line below the windows; a fault in red, until the next event.
   void ShowNotice(const std::string& text, NoticeKind kind);
@@ -36,7 +34,6 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void AddMenu(MenuItem& item, QWidget& bar);
   void ListWindows();
 
   Window& frame_;
@@ -44,7 +41,7 @@ class MainWindow : public QMainWindow {
   QLabel& notice_;  // behind it the tool tip of what is under the mouse comes and goes
   bool isFaultShown_ = false;
   PanelArea& area_;
-  std::unordered_map<const Control*, QAction*> menu_;
+  MenuActions& menus_;
   std::vector<QAction*> windowActions_;  // of the open windows, Ctrl+1 to Ctrl+9
 };
 

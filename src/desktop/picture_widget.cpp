@@ -16,6 +16,7 @@ namespace pelorium {
 namespace {
 
 constexpr QSize kLeastFollowingSize(160, 120);
+constexpr QSize kLeastPane(320, 240);
 
 QColor ToQt(Colour colour) { return {Red(colour), Green(colour), Blue(colour)}; }
 
@@ -28,14 +29,23 @@ bool IsTold(const QMouseEvent& event) {
   return event.button() == Qt::LeftButton || event.button() == Qt::RightButton;
 }
 
-Click ClickOf(const QMouseEvent& event) {
-  const bool right = event.button() == Qt::RightButton ||
-                     (event.buttons().testFlag(Qt::RightButton) &&
-                      !event.buttons().testFlag(Qt::LeftButton) && event.button() == Qt::NoButton);
-  return {right ? MouseButton::Right : MouseButton::Left, KeysHeld(event.modifiers())};
+// A press and its letting go have a button of their own; a move has those that are held.
+MouseButton ButtonOf(const QMouseEvent& event) {
+  const Qt::MouseButtons buttons = event.button() == Qt::NoButton ? event.buttons() : event.button();
+  if (buttons.testFlag(Qt::LeftButton)) return MouseButton::Left;
+  return buttons.testFlag(Qt::RightButton) ? MouseButton::Right : MouseButton::None;
 }
 
+Click ClickOf(const QMouseEvent& event) { return {ButtonOf(event), KeysHeld(event.modifiers())}; }
+
 }  // namespace
+
+PicturePane::PicturePane(QWidget* parent) : QWidget(parent) {
+  setMinimumSize(kLeastPane);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Dark);
+}
 
 PictureWidget::PictureWidget(PictureBox& box, Dispatcher& dispatcher, QWidget* parent)
     : QWidget(parent), box_(box), dispatcher_(dispatcher) {
@@ -61,6 +71,9 @@ void PictureWidget::FitToPicture() {
   if (box_.followsWindow) return;
   const QSize size(box_.measures().PixelWidth(), box_.measures().PixelHeight());
   if (minimumSize() != size || maximumSize() != size) setFixedSize(size);
+  if (dynamic_cast<PicturePane*>(parentWidget()) != nullptr) {
+    move(static_cast<int>(box_.left), static_cast<int>(box_.top));
+  }
 }
 
 void PictureWidget::ShowPresent() {

@@ -11,6 +11,12 @@
 
 namespace pelorium {
 
+// Shows the part of its pictures that lies in it. They stand where their left and top say.
+class PicturePane : public QWidget {
+ public:
+  explicit PicturePane(QWidget* parent);
+};
+
 // One picture pixel is one logical pixel of the screen; a screen of twice the density shows it as 2 x 2.
 class PictureWidget : public QWidget, public ControlView {
  public:

@@ -112,6 +112,26 @@ void QtPlatform::OpenInBrowser(const std::string& address) {
   QDesktopServices::openUrl(QUrl(ToQt(address), QUrl::TolerantMode));
 }
 
+// The desktops' own commands, in turn, until one says by its exit status that it did it.
+bool QtPlatform::SetWallpaper(const std::filesystem::path& file) {
+  const QString path = QFile::decodeName(file.c_str());
+  const QString url = QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded);
+  const auto runs = [](const QString& program, const QStringList& arguments) {
+    return QProcess::execute(program, arguments) == 0;
+  };
+  const auto setsGnome = [&](const char* key) {
+    return runs("gsettings", {"set", "org.gnome.desktop.background", key, url});
+  };
+  if (setsGnome("picture-uri")) {
+    setsGnome("picture-uri-dark");  // unknown to older ones
+    return true;
+  }
+  return runs("plasma-apply-wallpaperimage", {path}) ||
+         runs("xfconf-query", {"-c", "xfce4-desktop", "-p",
+                               "/backdrop/screen0/monitor0/workspace0/last-image", "-s", path}) ||
+         runs("feh", {"--bg-fill", path});
+}
+
 bool QtPlatform::StartSystemInformation() {
   static constexpr std::array kTools = {"hardinfo", "kinfocenter", "gnome-control-center"};
   for (const char* tool : kTools) {

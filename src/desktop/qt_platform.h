@@ -29,6 +29,7 @@ class QtPlatform : public Platform {
   std::optional<Picture> ClipboardPicture() override;
   void Print(const std::string& text) override;
   void OpenInBrowser(const std::string& address) override;
+  bool SetWallpaper(const std::filesystem::path& file) override;
   bool StartSystemInformation() override;
   double ClockReading() override;
 

@@ -35,6 +35,7 @@ class HeadlessPlatform : public Platform {
   std::optional<Picture> ClipboardPicture() override { return clipboardPicture_; }
   void Print(const std::string& text) override { printed_ = text; }
   void OpenInBrowser(const std::string& address) override { visited_ = address; }
+  bool SetWallpaper(const std::filesystem::path&) override { return false; }
   bool StartSystemInformation() override { return false; }
   double ClockReading() override;
 

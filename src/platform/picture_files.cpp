@@ -54,6 +54,7 @@ void LoadPicture(Picture& picture, const std::filesystem::path& path) {
   const Format& format = FormatOf(path, false);
   const DecodedImage image = format.read(ReadFile(path), picture.backColour);
   picture.Resize(image.width, image.height);
+  picture.SetScale(image.width, image.height);
   picture.SetPixels(image.pixels);
 }
 

@@ -11,9 +11,9 @@ namespace pelorium {
 // stays if the save fails. Overlays are not part of a picture.
 void SavePicture(const Picture& picture, const std::filesystem::path& path);
 
-// Resizes the picture to the file's size and fills it; what is transparent shows its background colour. A
-// file that cannot be read leaves the picture as it was and raises FileError; so does one with a side above
-// Picture::kMaxSide or with more than 32 million pixels.
+// Resizes the picture to the file's size, at one unit a pixel, and fills it; what is transparent shows its
+// background colour. A file that cannot be read leaves the picture as it was and raises FileError; so does
+// one with a side above Picture::kMaxSide or with more than 32 million pixels.
 void LoadPicture(Picture& picture, const std::filesystem::path& path);
 
 }  // namespace pelorium

@@ -40,6 +40,8 @@ class Platform {
   virtual std::optional<Picture> ClipboardPicture() = 0;
   virtual void Print(const std::string& text) = 0;
   virtual void OpenInBrowser(const std::string& address) = 0;
+  // Puts a picture file behind everything on the machine's screen; false when nothing took it.
+  virtual bool SetWallpaper(const std::filesystem::path& file) = 0;
   // Starts the machine's own system information tool; false when there is none.
   virtual bool StartSystemInformation() = 0;
   // Seconds of a clock, with fractions; for seeding the random series.

@@ -67,7 +67,11 @@ void ReadMouse(UserEvent& event, std::span<const std::string> words) {
   }
   event.x = SingleWord(words[1], "X");
   event.y = SingleWord(words[2], "Y");
-  event.click = ClickOf(words.subspan(3));
+  const std::span<const std::string> how = words.subspan(3);
+  event.click = ClickOf(how);
+  const bool saysButton = std::any_of(
+      how.begin(), how.end(), [](const std::string& word) { return word == "left" || word == "right"; });
+  if (event.action == UserAction::MouseMove && !saysButton) event.click.button = MouseButton::None;
 }
 
 void ReadWheel(UserEvent& event, std::span<const std::string> words) {

@@ -29,7 +29,10 @@ bool Drag(Control& control, double value) {
 
 bool Mouse(Control& control, const UserEvent& event) {
   return On<PictureBox>(control, [&](PictureBox& box) {
-    const MouseEvent mouse{event.x, event.y, event.click.button, event.click.keys};
+    MouseEvent mouse{event.x, event.y, event.click.button, event.click.keys};
+    if (event.action == UserAction::MouseDown) box.heldButton = mouse.button;
+    if (event.action == UserAction::MouseUp) box.heldButton = MouseButton::None;
+    if (mouse.button == MouseButton::None) mouse.button = box.heldButton;
     const auto& handler = event.action == UserAction::MouseDown   ? box.onMouseDown
                           : event.action == UserAction::MouseMove ? box.onMouseMove
                                                                   : box.onMouseUp;

@@ -12,7 +12,7 @@ std::string ClickWords(const Click& click, bool sayLeft) {
   std::string words;
   if (click.IsRight()) {
     words += " right";
-  } else if (sayLeft) {
+  } else if (sayLeft && click.button == MouseButton::Left) {
     words += " left";
   }
   if (click.keys.shift) words += " shift";

@@ -35,6 +35,7 @@ class SeenPlatform : public Platform {
     machine_.Print(text);
   }
   void OpenInBrowser(const std::string& address) override { machine_.OpenInBrowser(address); }
+  bool SetWallpaper(const std::filesystem::path& file) override { return machine_.SetWallpaper(file); }
   bool StartSystemInformation() override { return machine_.StartSystemInformation(); }
   double ClockReading() override { return machine_.ClockReading(); }
 
