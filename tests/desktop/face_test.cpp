@@ -178,7 +178,31 @@ TEST_F(FaceTest, ButtonsKeysAndTheNewestMoveAreTold) {
   Settle();
   EXPECT_EQ(NewJournalLines(),
             (Lines{"mouse Form36.Picture1 down 10 -20 right shift ctrl",
-                   "mouse Form36.Picture1 up 10 -20 right", "mouse Form36.Picture1 move 140 -60 left"}));
+                   "mouse Form36.Picture1 up 10 -20 right", "mouse Form36.Picture1 move 140 -60"}));
+}
+
+TEST_F(FaceTest, TheWheelZoomsAndTheMiddleButtonPans) {
+  auto& widget = Shown<QWidget>("Form36.Picture1");
+  const auto turn = [&](int eighths) {
+    QWheelEvent wheel(QPointF(100, 50), widget.mapToGlobal(QPointF(100, 50)), {}, {0, eighths}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &wheel);
+  };
+  turn(60);  // half a step waits for the other half
+  EXPECT_EQ(NewJournalLines(), Lines{});
+  turn(180);
+  EXPECT_EQ(NewJournalLines(), (Lines{"wheel Form36.Picture1 2 100 -50"}));
+
+  turn(-240);
+  NewJournalLines();
+  const int before = Controlled<ScrollBar>("Form36", "HScroll1").value();
+  QTest::mousePress(&widget, Qt::MiddleButton, Qt::NoModifier, QPoint(100, 100));
+  QMouseEvent move(QEvent::MouseMove, QPointF(130, 100), widget.mapToGlobal(QPointF(130, 100)), Qt::NoButton,
+                   Qt::MiddleButton, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &move);
+  QTest::mouseRelease(&widget, Qt::MiddleButton, Qt::NoModifier, QPoint(130, 100));
+  EXPECT_EQ(NewJournalLines(), (Lines{"drag Form36.HScroll1 " + std::to_string(before + 30)}));
+  EXPECT_EQ(app().model.Profile(0).count, 0) << "a pan draws nothing";
 }
 
 TEST_F(FaceTest, ABarIsDraggedByItsThumb) {
