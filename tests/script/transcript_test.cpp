@@ -31,7 +31,8 @@ class Program {
  public:
   Program() : old_(std::filesystem::current_path()) {
     std::filesystem::current_path(folder_.path());
-    for (const char* name : {"projects", "objs", "objinfo"}) std::filesystem::create_directory(name);
+    for (const char* name : {"projects", "objs", "objinfo", "parts1", "parts4"})
+      std::filesystem::create_directory(name);
     app.drawsAtOnce = std::getenv("PELORIUM_DRAW_AT_ONCE") != nullptr;
     app.Start();
     app.faults.TakeAll();

@@ -35,11 +35,13 @@ TEST_F(PaperPattern, AnUnfoldedStripIsOnePiece) {
   }
   app.model.Part(0).maxpoints = 24, app.model.Part(0).maxfaces = 8;
   FollowCounts(app);
+  SyncFaceCorners(app);
   PressItem("unfoldme");
-  for (int face = 1; face <= 7; face += 2) {
-    app.Deliver({"unfold", "VScroll2", UserAction::Drag, static_cast<double>(face)});
-    for (const char* button : {"Command1", "Command2", "Command9"})
-      if (face > 1 || button[7] == '1') app.Deliver({"unfold", button, UserAction::Press});
+  unfold.Command1.Press();
+  unfold.Check1.SetValue(true);
+  for (const double face : {3, 5, 7}) {
+    app.Deliver({"unfold", "VScroll2", UserAction::Drag, face});
+    for (const char* button : {"Command2", "Command9"}) app.Deliver({"unfold", button, UserAction::Press});
   }
   PatternSettings settings;
   settings.lastFace = 8;
