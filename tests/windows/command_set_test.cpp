@@ -25,6 +25,14 @@ TEST_F(CommandSet, EveryMenuItemHasItsHeadAndEveryButtonItsItem) {
   }
 }
 
+// The number of the Part is held to 1, which shows once the typing is over.
+TEST_F(CommandSet, ClosingAWindowEndsTheTyping) {
+  app.Deliver({"Form51", "Text3", UserAction::Type, 0, "7"});
+  EXPECT_EQ(AsText(app.FindWindow("Form51")->Find("Text3")->Value()), "7");
+  app.Deliver({"Form51", "", UserAction::CloseWindow});
+  EXPECT_EQ(AsText(app.FindWindow("Form51")->Find("Text3")->Value()), "1");
+}
+
 // Exit hides a few windows by name first, then the others in the program's order.
 TEST_F(CommandSet, ExitHidesWindowsInItsOrder) {
   struct Order : ControlListener {
