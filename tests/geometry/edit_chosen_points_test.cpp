@@ -43,12 +43,6 @@ TEST_F(EditChosenPoints, StepsOverTheRangeAndLeavesUnmarkedPoints) {
   EXPECT_THROW(MoveChosen(model, {1, 22999, 23001, 1}, Axis::X, 1), Fault);
 }
 
-TEST_F(EditChosenPoints, ProgressiveTurnsNeedALayerWidth) {
-  Lay(2);
-  EXPECT_THROW(TurnChosenProgressively(model, {1, 1, 2}, {Axis::X, Axis::Y, 90, 0, 0, 36}, {}), Fault);
-  EXPECT_EQ(All(Axis::X), (Row{1, 2}));
-}
-
 TEST_F(EditChosenPoints, LayersJoinEndToEnd) {
   Lay(7);  // two layers of three, and one point more
   model.PointMark(1, 4) = 0;

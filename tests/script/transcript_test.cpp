@@ -1,10 +1,15 @@
 // Sessions of the script language with what they answer. A transcript is its own golden: lines behind "> "
 // are played, those that stand together as one script, and what comes of them follows:
 //   two blanks and an answer, "! " and an error, "* " and what a control was told, "= " and the exit status.
+// "---" begins another program in a folder of its own; the rest of that line says what it shows.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <ostream>
+#include <regex>
 #include <set>
 #include <sstream>
 
@@ -22,12 +27,16 @@ namespace pelorium {
 namespace {
 
 // A program without a screen, with a few controls of the tests' own in one of its windows.
-class Transcripts : public FolderTest, public ::testing::WithParamInterface<std::string> {
- protected:
-  Transcripts() : old_(std::filesystem::current_path()) {
-    std::filesystem::current_path(folder());
+class Program {
+ public:
+  Program() : old_(std::filesystem::current_path()) {
+    std::filesystem::current_path(folder_.path());
+    for (const char* name : {"projects", "objs", "objinfo", "parts1", "parts4"})
+      std::filesystem::create_directory(name);
+    app.drawsAtOnce = std::getenv("PELORIUM_DRAW_AT_ONCE") != nullptr;
     app.Start();
     app.faults.TakeAll();
+    app.notices.TakeAll();  // the help text is not there
     list.SetItems({"first", "second", "third"});
     disabled.SetEnabled(false);
     bar.onChange = [this] { Note("bar " + std::to_string(bar.value())); };
@@ -43,8 +52,21 @@ class Transcripts : public FolderTest, public ::testing::WithParamInterface<std:
     view.onResize = [this](int width, int height) { Note("size " + std::to_string(width * 1000 + height)); };
     BindButtons();
   }
-  ~Transcripts() override { std::filesystem::current_path(old_); }
+  ~Program() { std::filesystem::current_path(old_); }
 
+  std::string AnswersTo(const std::string& script) {
+    if (script.empty()) return {};
+    std::ostringstream out, err;
+    ScriptRunner runner(app, platform, out, err);
+    std::istringstream input(script);
+    runner.Play(input, "script");
+    std::string answers =
+        Prefixed("  ", out.str()) + Prefixed("! ", err.str()) + Prefixed("* ", std::exchange(notes_, {}));
+    if (runner.ended()) answers += "= " + std::to_string(runner.exitStatus()) + "\n";
+    return answers;
+  }
+
+ private:
   void BindButtons() {
     button.onClick = [this](const Click& click) { Note("button" + WordsOf(click)); };
     modal.onClick = [this](const Click&) { platform.RunModal(*app.FindWindow("helpme")); };
@@ -59,36 +81,16 @@ class Transcripts : public FolderTest, public ::testing::WithParamInterface<std:
     };
   }
 
-  // The transcript with the answers as they are now.
-  std::string Played(const std::string& transcript) {
-    std::istringstream lines(transcript);
-    std::string played, script;
-    for (std::string line; std::getline(lines, line);) {
-      const bool isInput = line.starts_with("> ");
-      if (!isInput) played += AnswersTo(std::exchange(script, {}));
-      if (isInput) script += line.substr(2) + "\n";
-      if (isInput || line.empty() || line.starts_with("#")) played += line + "\n";
-    }
-    return played + AnswersTo(script);
-  }
-
-  std::string AnswersTo(const std::string& script) {
-    if (script.empty()) return {};
-    std::ostringstream out, err;
-    ScriptRunner runner(app, platform, out, err);
-    std::istringstream input(script);
-    runner.Play(input, "script");
-    std::string answers =
-        Prefixed("  ", out.str()) + Prefixed("! ", err.str()) + Prefixed("* ", std::exchange(notes_, {}));
-    if (runner.ended()) answers += "= " + std::to_string(runner.exitStatus()) + "\n";
-    return answers;
-  }
-
-  // The time that a command took is another each time.
-  static std::string Prefixed(const std::string& prefix, const std::string& text) {
+  // The time that a command took is another each time, and so are the folder and names of unfinished files.
+  std::string Prefixed(const std::string& prefix, const std::string& text) const {
+    const std::string folder = folder_.path().string();
     std::istringstream lines(text);
     std::string prefixed;
     for (std::string line; std::getline(lines, line);) {
+      for (auto at = line.find(folder); at != line.npos; at = line.find(folder)) {
+        line.replace(at, folder.size(), "~");
+      }
+      line = std::regex_replace(line, std::regex("saving-[0-9]+"), "saving");
       prefixed += prefix + (line.starts_with("ms ") ? "ms ..." : line) + "\n";
     }
     return prefixed;
@@ -105,10 +107,11 @@ class Transcripts : public FolderTest, public ::testing::WithParamInterface<std:
     return text.str();
   }
 
+  TemporaryFolder folder_;
   std::filesystem::path old_;
   std::string notes_;
   HeadlessPlatform platform;
-  App app{platform, folder()};
+  App app{platform, folder_.path()};
   Window& window = *app.FindWindow("frmAbout");
   ScrollBar bar{window, "Bar", {-5, 36, 7, 2, 9}, "How many", "sets \"how many\""};
   TextBox box{window, "Box", "old text"};
@@ -122,6 +125,24 @@ class Transcripts : public FolderTest, public ::testing::WithParamInterface<std:
   PushButton modal{window, "Modal", ""}, stroke{window, "Line", ""}, fault{window, "Fault", ""};
   PushButton random{window, "Random", ""}, quit{window, "Quit", ""}, ask{window, "Ask", ""};
 };
+
+// The transcript with the answers as they are now.
+std::string Played(const std::string& transcript) {
+  std::istringstream lines(transcript);
+  auto program = std::make_unique<Program>();
+  std::string played, script;
+  for (std::string line; std::getline(lines, line);) {
+    const bool isInput = line.starts_with("> "), isOther = line.starts_with("---");
+    if (!isInput) played += program->AnswersTo(std::exchange(script, {}));
+    if (isOther) program.reset();  // the old folder is left before another is entered
+    if (isOther) program = std::make_unique<Program>();
+    if (isInput) script += line.substr(2) + "\n";
+    if (isInput || isOther || line.empty() || line.starts_with("#")) played += line + "\n";
+  }
+  return played + program->AnswersTo(script);
+}
+
+class Transcripts : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(Transcripts, AnswerAsTheyDid) {
   const std::string name = "script/transcripts/" + GetParam() + ".txt";
@@ -138,7 +159,11 @@ std::set<std::string> NamesOfTranscripts() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Script, Transcripts, ::testing::ValuesIn(NamesOfTranscripts()),
-                         [](const auto& made) { return made.param; });
+                         [](const auto& made) {
+                           std::string name = made.param;
+                           std::replace(name.begin(), name.end(), '-', '_');
+                           return name;
+                         });
 
 }  // namespace
 }  // namespace pelorium

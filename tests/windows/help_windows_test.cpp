@@ -4,7 +4,6 @@
 #include "platform/headless_platform.h"
 #include "support/harness.h"
 #include "windows/frame/frame_windows.h"
-#include "windows/frame/frm_about.h"
 #include "windows/frame/frm_splash.h"
 #include "windows/frame/help_me.h"
 #include "windows/shell/app_shell.h"
@@ -43,15 +42,6 @@ TEST_F(HelpWindows, AClickOnTheSplashStartsOnce) {
   app.frame->frmSplash.Label1.Press({});
   app.frame->frmSplash.Picture1.Key(' ');
   EXPECT_EQ(app.model.Points(0, 5).X, 77);
-}
-
-TEST_F(HelpWindows, AboutSaysWhenThereIsNoSystemInformation) {
-  app.frame->frmAbout.Show();
-  app.frame->frmAbout.cmdSysInfo.Press();
-  EXPECT_EQ(platform.TakeMessages(),
-            std::vector<std::string>{"System Information Is Unavailable At This Time"});
-  app.frame->frmAbout.cmdOK.Press();
-  EXPECT_FALSE(app.frame->frmAbout.visible());
 }
 
 TEST_F(HelpWindows, HelpIsLoadedFromTheProgramsFolder) {

@@ -14,30 +14,9 @@ namespace {
 class MaterialWindow : public AppTest {
  protected:
   ScrollBar& Bar(const char* name) { return *dynamic_cast<ScrollBar*>(window.Find(name)); }
-  std::string Box(const char* name) { return AsText(window.Find(name)->Value()); }
 
   Material& window = app.interchange->material;
 };
-
-TEST_F(MaterialWindow, ShowsAGroupWithoutWritingAndStoresWhatMoves) {
-  MaterialRec& two = app.model.MaterialGroups(2);
-  two.dif_amt = 0.29, two.illum = 0, two.KdR = 255.0 / 256;
-  window.HScroll1.SetValue(2);
-  EXPECT_EQ(Bar("HScroll20").value(), 29);  // the nearest: 0.29 * 100 lies below 29
-  EXPECT_EQ(Box("Text18"), "255");          // of a filter of 1, which the bar cannot show
-  EXPECT_EQ(two.TfR, 1);
-  EXPECT_EQ(Bar("HScroll16").value(), 1);
-  EXPECT_EQ(two.illum, 0);
-  EXPECT_EQ(window.Picture2.picture().PixelAt(0, 0) & 0xFF, 254);
-  Bar("HScroll5").SetValue(128);
-  EXPECT_EQ(two.KdR, 0.5);
-  Bar("HScroll23").SetValue(1);
-  EXPECT_EQ(two.usedif, 1);
-  window.Text26.Type("thumb");
-  EXPECT_EQ(two.GroupName, "thumb");
-  window.HScroll1.SetValue(0);
-  EXPECT_EQ(Box("Text26"), "bone_0");
-}
 
 TEST_F(MaterialWindow, TheFileLiesBesideTheFolderAndComesBack) {
   MaterialRec& last = app.model.MaterialGroups(40);
