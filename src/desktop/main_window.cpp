@@ -3,12 +3,18 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
 #include <utility>
 
 #include "controls/user_event.h"
@@ -35,6 +41,7 @@ MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher, MenuActions& menus
       menus_(menus) {
   setObjectName(ToQt(frame.name()));
   setCentralWidget(&area_);
+  setAcceptDrops(true);
   for (MenuItem* head : TopLevelItems(frame)) menus_.Add(*head, *menuBar());
   statusBar()->setSizeGripEnabled(true);
   notice_.setObjectName("notice");
@@ -92,6 +99,20 @@ void MainWindow::ListWindows() {
     action->setToolTip("brings it to the front");
     if (++number <= kNumberedWindows) action->setShortcut(QKeySequence(Qt::CTRL | (Qt::Key_0 + number)));
     windowActions_.push_back(action);
+  }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+// Whoever gave the files waits until the drop is over: a handler may open a dialog.
+void MainWindow::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (!url.isLocalFile()) continue;
+    const std::filesystem::path path = QFile::encodeName(url.toLocalFile()).toStdString();
+    QTimer::singleShot(0, this, [this, path] { onFileDropped(path); });
   }
 }
 

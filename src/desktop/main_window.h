@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QMainWindow>
+#include <filesystem>
+#include <functional>
 #include <vector>
 
 #include "controls/window.h"
@@ -24,6 +26,8 @@ class MainWindow : public QMainWindow {
   // Shows or hides the window as it says; brings it to the front at each Show.
   void Sync(WindowView& view);
   void PutWindowsInOrder();
+  // A person dropped a file on the frame.
+  std::function<void(const std::filesystem::path&)> onFileDropped;
   void SyncFrame();
 
   // In the line below the windows; a fault in red, until the next event.
@@ -32,6 +36,8 @@ class MainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void ListWindows();

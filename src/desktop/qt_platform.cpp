@@ -43,6 +43,10 @@ QString StartFolder(const std::filesystem::path& wanted) {
 }  // namespace
 
 std::string QtPlatform::AskFileName(const FileDialogRequest& request) {
+  if (const auto answer = std::exchange(waitingAnswer_, std::nullopt)) {
+    journal_.NoteAnswer(*answer);
+    return *answer;
+  }
   QFileDialog dialog(QApplication::activeWindow(), ToQt(request.title), StartFolder(request.folder));
   dialog.setNameFilters(NameFilters(request.filter));
   dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

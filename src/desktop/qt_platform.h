@@ -19,6 +19,10 @@ class QtPlatform : public Platform {
   std::function<void(Window&)> runModal;
   std::function<void()> arrangeWindows;
 
+  // The next file dialog does not open: this is its answer.
+  void AnswerNextDialog(std::string fileName) { waitingAnswer_ = std::move(fileName); }
+  void ForgetAnswer() { waitingAnswer_.reset(); }
+
   std::string AskFileName(const FileDialogRequest& request) override;
   void ShowMessage(const std::string& text) override;
   void RunModal(Window& window) override;
@@ -35,6 +39,7 @@ class QtPlatform : public Platform {
 
  private:
   Journal& journal_;
+  std::optional<std::string> waitingAnswer_;
 };
 
 }  // namespace pelorium

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "windows/frame/open_file.h"
+
 namespace pelorium {
 
 Session::Session(Journal journal, const std::filesystem::path& applicationPath)
@@ -16,7 +18,15 @@ Session::Session(Journal journal, const std::filesystem::path& applicationPath)
     dispatcher_.RunNested(dialog);
   };
   platform_.arrangeWindows = [this] { face_.frame().PutWindowsInOrder(); };
+  face_.frame().onFileDropped = [this](const std::filesystem::path& path) { Open(path); };
   platform_.runModal = [this](Window& window) { face_.RunModal(window); };
+}
+
+void Session::Open(const std::filesystem::path& path) {
+  OpenFile(app_, path,
+           {[this](const std::filesystem::path& answer) { platform_.AnswerNextDialog(answer.string()); },
+            [this](const UserEvent& event) { dispatcher_.Deliver(event); }});
+  platform_.ForgetAnswer();
 }
 
 }  // namespace pelorium

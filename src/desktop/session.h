@@ -18,6 +18,8 @@ class Session {
 
   App& app() { return app_; }
   Face& face() { return face_; }
+  // Opens a file by its kind, as a person would by hand.
+  void Open(const std::filesystem::path& path);
 
  private:
   Journal journal_;

@@ -1,12 +1,14 @@
 // What a person does with mouse and keyboard reaches the program, and what the program draws reaches the
 // screen.
 #include <QComboBox>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
@@ -15,6 +17,7 @@
 #include <QTextEdit>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 #include <QWheelEvent>
 #include <algorithm>
 #include <functional>
@@ -366,6 +369,29 @@ TEST_F(FaceTest, AnswersOfFileDialogsComeBeforeTheirEvent) {
   });
   EXPECT_TRUE(std::filesystem::exists(target + ".prj"));
   EXPECT_EQ(NewJournalLines(), (Lines{"answer \"" + target + ".prj\"", "press MDIForm1.saveproj"}));
+}
+
+TEST_F(FaceTest, ADroppedFileIsOpenedByItsButton) {
+  const auto drop = [this](const std::string& name, const std::string& text) {
+    std::ofstream(home_ / name) << text;
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(QString::fromStdString((home_ / name).string()))});
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&frame(), &enter);
+    QDropEvent event(QPointF(50, 50), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&frame(), &event);
+    Settle();
+  };
+  drop("two.obj", "v 1 2 3\nv 4 5 6\nf 1 2 2\n");
+  EXPECT_EQ(app().model.Part(0).maxpoints, 2);
+  drop("map.uvs", "vt 1 2\n");
+  EXPECT_EQ(app().model.Points(0, 1).v, 2);
+  EXPECT_EQ(NewJournalLines(),
+            (Lines{"answer \"" + (home_ / "two.obj").string() + "\"", "press Form14.Command25",
+                   "type Form14.Text13 \"" + (home_ / "map.uvs").string() + "\"", "press Form14.Command2"}));
+  drop("letter.txt", "Dear reader");
+  EXPECT_EQ(NewJournalLines(), Lines{});
+  EXPECT_EQ(Shown<QLabel>("notice").text().toStdString(), "letter.txt is no file that can be opened here");
 }
 
 TEST_F(FaceTest, AModalWindowRunsUntilItIsClosed) {
