@@ -9,6 +9,7 @@
 
 #include "desktop/picture_widget.h"
 #include "desktop/qt_text.h"
+#include "windows/frame/status_line.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/hooks.h"
 
@@ -84,6 +85,7 @@ void Face::Refresh() {
   RefreshControls();
   RefreshWindows();
   RefreshPictures();
+  if (app_.started) frame_->ShowStatus(MouseHint(app_), StatusLine(app_));
   // Not quit(): it asks the windows, and those leave their closing to the program.
   if (app_.exitRequested) QCoreApplication::exit();
 }

@@ -30,6 +30,7 @@ namespace {
 
 constexpr QSize kComfortableFrame(1360, 900);
 constexpr int kNumberedWindows = 9;
+constexpr int kStatusGap = 8;  // pixels
 
 }  // namespace
 
@@ -37,6 +38,8 @@ MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher, MenuActions& menus
     : frame_(frame),
       dispatcher_(dispatcher),
       notice_(*new QLabel(this)),
+      hint_(*new QLabel(this)),
+      status_(*new QLabel(this)),
       area_(*new PanelArea(this)),
       menus_(menus) {
   setObjectName(ToQt(frame.name()));
@@ -48,6 +51,12 @@ MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher, MenuActions& menus
   notice_.setTextFormat(Qt::PlainText);
   notice_.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   statusBar()->addPermanentWidget(&notice_, 1);
+  for (auto [label, name] : {std::pair{&hint_, "hint"}, {&status_, "status"}}) {
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setContentsMargins(kStatusGap, 0, kStatusGap, 0);
+    statusBar()->addPermanentWidget(label);
+  }
   const QSize screen = QGuiApplication::primaryScreen()->availableSize();
   resize(kComfortableFrame.boundedTo(screen * 0.95));
   SyncFrame();
@@ -70,6 +79,13 @@ void MainWindow::SyncFrame() {
   if (isVisible() == frame_.visible()) return;
   setVisible(frame_.visible());
   if (frame_.visible()) activateWindow();
+}
+
+void MainWindow::ShowStatus(const std::string& hint, const std::string& status) {
+  for (auto [label, text] : {std::pair{&hint_, &hint}, {&status_, &status}}) {
+    const QString shown = ToQt(*text);
+    if (label->text() != shown) label->setText(shown);
+  }
 }
 
 void MainWindow::Sync(WindowView& view) {

@@ -33,6 +33,8 @@ class MainWindow : public QMainWindow {
   // In the line below the windows; a fault in red, until the next event.
   void ShowNotice(const std::string& text, NoticeKind kind);
   void ForgetFault();
+  // What is worked on and what the mouse does, at the right of that line.
+  void ShowStatus(const std::string& hint, const std::string& status);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -45,6 +47,7 @@ class MainWindow : public QMainWindow {
   Window& frame_;
   Dispatcher& dispatcher_;
   QLabel& notice_;  // behind it the tool tip of what is under the mouse comes and goes
+  QLabel &hint_, &status_;
   bool isFaultShown_ = false;
   PanelArea& area_;
   MenuActions& menus_;

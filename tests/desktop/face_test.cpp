@@ -305,6 +305,19 @@ TEST_F(FaceTest, NoticesStandInTheStatusLine) {
 }
 
 // A number that its bar cannot take gives way when the box loses the focus.
+TEST_F(FaceTest, TheStatusLineTellsWhatIsWorkedOn) {
+  EXPECT_EQ(Shown<QLabel>("status").text().toStdString(),
+            "Part 0   Profile 0   0 points, 0 chosen   0 faces");
+  for (int i = 1; i <= 3; ++i) app().model.PointMark(0, i) = i == 2 ? 0 : 1;
+  app().model.Part(0).maxpoints = 3;
+  Controlled<ScrollBar>("Form5", "HScroll25").SetValue(3);
+  QTest::mouseClick(&Shown<QRadioButton>("Form36.Option10"), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+  EXPECT_EQ(Shown<QLabel>("status").text().toStdString(),
+            "Part 0   Profile 0   3 points, 2 chosen   0 faces");
+  EXPECT_EQ(Shown<QLabel>("hint").text().toStdString(),
+            "Pick Points: drag to choose, right button takes off, Shift takes all");
+}
+
 TEST_F(FaceTest, ATypedNumberOutOfRangeShowsItsLimitLater) {
   auto& widget = Shown<QLineEdit>("Form51.Text6");
   widget.setFocus();
