@@ -130,7 +130,7 @@ void PanelArea::PlaceColumns() {
   for (int i = 0; i < count(); ++i) setStretchFactor(i, widget(i) == &pages_ ? 1 : 0);
   const int rest = std::max(kLeastPage, width() - (isWide_ ? 2 : 1) * kColumnWidth);
   setSizes(isWide_ ? QList<int>{kColumnWidth, rest, kColumnWidth} : QList<int>{kColumnWidth, rest});
-  left_.setSizes({height() / 2, height() / 2});
+  left_.setSizes({height() * 2 / 5, height() * 3 / 5});  // the tool in use gets more
   HideEmptyColumns();
 }
 
