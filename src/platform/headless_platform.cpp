@@ -27,8 +27,9 @@ void HeadlessPlatform::RunModal(Window& window) {
   window.Hide();
 }
 
-double HeadlessPlatform::ClockReading() {
-  return std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
-}
+// The clock stands still, so that what tells of times is the same at every run.
+HeadlessPlatform::HeadlessPlatform()
+    : clockReading_(
+          std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count()) {}
 
 }  // namespace pelorium

@@ -14,6 +14,8 @@ namespace pelorium {
 
 class HeadlessPlatform : public Platform {
  public:
+  HeadlessPlatform();
+
   // The answers to the next file dialogs, first come first served; an empty one is a cancel. A dialog with no
   // answer waiting is cancelled.
   void QueueAnswer(std::string fileName) { answers_.push_back(std::move(fileName)); }
@@ -37,12 +39,13 @@ class HeadlessPlatform : public Platform {
   void OpenInBrowser(const std::string& address) override { visited_ = address; }
   bool SetWallpaper(const std::filesystem::path&) override { return false; }
   bool StartSystemInformation() override { return false; }
-  double ClockReading() override;
+  double ClockReading() override { return clockReading_; }
 
   const std::string& printed() const { return printed_; }
   const std::string& visited() const { return visited_; }
 
  private:
+  const double clockReading_;
   std::deque<std::string> answers_;
   std::vector<std::string> messages_;
   std::vector<FileDialogRequest> dialogs_;

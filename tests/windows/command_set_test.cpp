@@ -47,7 +47,7 @@ TEST_F(CommandSet, ExitHidesWindowsInItsOrder) {
   app.host.listener = nullptr;
   ASSERT_GE(order.names.size(), 5u);
   EXPECT_EQ(std::vector<std::string>(order.names.begin(), order.names.begin() + 5),
-            (std::vector<std::string>{"editbyface", "Form12", "Form14", "frmSplash", "MDIForm1"}));
+            (std::vector<std::string>{"Form47", "editbyface", "Form12", "Form14", "frmSplash"}));
   EXPECT_EQ(order.names.back(), "Form36");
 }
 

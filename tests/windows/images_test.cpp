@@ -51,7 +51,7 @@ TEST_F(Images, LieBehindTheModel) {
   EXPECT_EQ(platform.ClipboardPicture()->PixelAt(10, 0), ColourOf(200, 100, 31));
   PressItem("clearimage");
   EXPECT_EQ(view(10), ColourOf(64, 64, 64));
-  EXPECT_EQ(image.PixelAt(0, 0), ColourOf(200, 100, 31));
+  EXPECT_EQ(image.PixelAt(0, 0), 0);
 }
 
 TEST_F(Images, GiveProfilesTheirGray) {

@@ -16,11 +16,14 @@ namespace {
 // The program's order of windows, whatever the order of building: of lists, of Exit, and of the hooks behind
 // their first. A window that is not named stands before the last.
 const std::vector<const char*> kOrder = {
-    "frmSplash",    "MDIForm1",        "Form51",          "Form5",           "Formulas", "Formulas2frm",
-    "Formulas3frm", "frmsaveprof",     "editbyface",      "revolveprof",     "Form55",   "freeface",
-    "unfold",       "specialeffects1", "specialeffects5", "specialeffects6", "Form31",   "Form12",
-    "Form14",       "uvimportexport",  "convert",         "material",        "shapes",   "shapes2",
-    "Dialog",       "texture",         "helpme",          "frmAbout",        "Form36",
+    "frmSplash",       "MDIForm1",       "Form51",      "Form5",           "Formulas",
+    "Formulas2frm",    "Formulas3frm",   "frmsaveprof", "editbyface",      "revolveprof",
+    "Form55",          "freeface",       "unfold",      "specialeffects1", "specialeffects5",
+    "specialeffects6", "Form31",         "Form12",      "Form14",          "Form15",
+    "Form47",          "uvimportexport", "convert",     "material",        "shapes",
+    "shapes2",         "Dialog",         "texture",     "Specialeffects3", "Plasma",
+    "Plasmathree",     "frmPerlinNoise", "Form45",      "helpme",          "frmAbout",
+    "Form36",
 };
 
 }  // namespace

@@ -5,7 +5,7 @@ namespace pelorium {
 
 class App;
 
-// Takes the background image away from behind the model; what it holds can still be read.
+// Takes the background image away from behind the model and blackens it.
 void ClearImage(App& app);
 
 // The picture of the model, and the background image, to the clipboard.

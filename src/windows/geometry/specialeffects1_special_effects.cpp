@@ -11,7 +11,6 @@
 #include "geometry/join_ends.h"
 #include "geometry/join_points.h"
 #include "geometry/roughen.h"
-#include "platform/picture_files.h"
 #include "windows/geometry/geometry_windows.h"
 #include "windows/geometry/revolveprof_revolve_profile.h"
 #include "windows/shell/app_shell.h"
@@ -20,6 +19,7 @@
 #include "windows/view/form36_view.h"
 #include "windows/view/form51_view_options.h"
 #include "windows/view/form5_precise_edit.h"
+#include "windows/view/image_files.h"
 #include "windows/view/shared_parameters.h"
 #include "windows/view/view_windows.h"
 
@@ -122,15 +122,7 @@ void SpecialEffects1::Lift(bool isRight) {
   LiftToGray(app_.model, picture, ReadConformRange(), isRight ? -HScroll2.Shown() : HScroll2.Shown());
 }
 
-// A file that is not there changes nothing.
-void SpecialEffects1::LoadPictureNumber(int number) {
-  const std::string name = "picture" + std::to_string(number) + ".bmp";
-  Picture image(1, 1);
-  LoadPicture(image, FileNamed(app_, name));
-  app_.view->form36.TakeImage(image);
-  app_.view->form36.ShowBackground();
-  app_.notices.Give("loaded " + name, NoticeKind::Result);
-}
+void SpecialEffects1::LoadPictureNumber(int number) { LoadNumberedPicture(app_, number); }
 
 // Layers past the last point make an empty choice.
 void SpecialEffects1::ChooseLayers() {

@@ -179,6 +179,8 @@ class Texture : public ToolWindow {
   void SetImageSize(int width, int height);
   void Replace(Image image, const Picture& picture);
   void Told(Image image);  // its pixels changed
+  void FillWithPlasma();
+  void FillWithNoise(bool streaks);
 
   // buttons
   void GridImage();

@@ -243,7 +243,8 @@ void Texture::MakeControls() {
     buttons_.push_back(std::make_unique<PushButton>(*this, b.name, b.caption, b.toolTip));
     if (b.run != nullptr) buttons_.back()->onClick = [this, run = b.run](const Click&) { (this->*run)(); };
   }
-  for (PushButton* button : {&Command2, &cmdAnimate}) button->SetEnabled(false);  // no noise yet
+  Command2.onClick = [this](const Click&) { FillWithNoise(false); };
+  cmdAnimate.onClick = [this](const Click&) { FillWithNoise(true); };
 }
 
 BoxedBar& Texture::Bar(std::string_view name) const {

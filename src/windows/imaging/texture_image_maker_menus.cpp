@@ -5,6 +5,7 @@
 #include "controls/lists.h"
 #include "imaging/filter_items.h"
 #include "windows/imaging/texture_image_maker.h"
+#include "windows/imaging/view_image.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
 
@@ -12,7 +13,6 @@ namespace pelorium {
 
 namespace {
 
-constexpr const char* kWallpaper = "Plasma.bmp";
 constexpr const char* kNoAction = "has no action";
 constexpr Colour kColourMask = 0xFFFFFF;
 
@@ -105,8 +105,7 @@ void Texture::MakeEffectMenu() {
     AddItem(effects, effect.item, effect.caption, "walks the Foreground and stamps the Background",
             [this, &effect] { RunEffect(effect); });
   }
-  AddItem(effects, "plasmait", "plasma", "fills the Foreground with a cloud", {})
-      .SetEnabled(false);  // none yet
+  AddItem(effects, "plasmait", "plasma", "fills the Foreground with a cloud", [this] { FillWithPlasma(); });
   AddItem(
       effects, "plasmathreeme", "PlasmaCreator", "clouds on the picture of the view",
       [this] { ShowWindow("Plasmathree"); }, "Plasmathree");
@@ -181,13 +180,6 @@ void Texture::SetBaseColour(Image image) {
   Told(image);
 }
 
-void Texture::SetAsWallpaper() {
-  bool isSet = false;
-  Trapped(app_.faults, "texture.wallpaperme", [&] {
-    SavePictureFile(app_, kWallpaper, Picture1.picture());
-    isSet = app_.platform.SetWallpaper(FileNamed(app_, kWallpaper));
-  });
-  if (!isSet) app_.platform.ShowMessage("Wallpaper not set.");
-}
+void Texture::SetAsWallpaper() { pelorium::SetAsWallpaper(app_, "texture.wallpaperme", Picture1.picture()); }
 
 }  // namespace pelorium

@@ -225,7 +225,12 @@ void Form36::TakeImage(const Picture& image) {
                 pixels.begin() + std::ptrdiff_t{y} * kImageWidth);
   }
   to.SetPixels(pixels);
+  ImageChanged();
+}
+
+void Form36::ImageChanged() {
   Picture2.NotifyChanged();
+  if (onImageChanged) onImageChanged();
 }
 
 void Form36::ShowBackground() {
@@ -240,6 +245,8 @@ void Form36::ShowBackground() {
 void Form36::ClearBackground() {
   Picture1.picture().SetBackdrop(nullptr);
   Label53.SetCaption({});
+  Picture2.picture().Clear();
+  ImageChanged();
   noImage_ = Picture2.picture().Revision();
   RefreshViews(app_);
 }

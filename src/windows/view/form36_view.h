@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -48,8 +49,11 @@ class Form36 : public ToolWindow {
 
   // Picture2 gets the image from its top left on, a pixel a pixel, and is black where the image ends.
   void TakeImage(const Picture& image);
+  // The pixels of Picture2 changed: whoever shows them hears of it.
+  void ImageChanged();
+  std::function<void()> onImageChanged;
 
-  // Lays Picture2 behind the model, or takes it away.
+  // Lays Picture2 behind the model; takes it away and blackens it.
   void ShowBackground();
   void ClearBackground();
 

@@ -1,0 +1,119 @@
+// Stories of the windows that make the image behind the model.
+#include "platform/picture_files.h"
+#include "app_fixture.h"
+#include "windows/imaging/imaging_windows.h"
+#include "windows/imaging/texture_image_maker.h"
+#include "windows/view/form36_view.h"
+#include "windows/view/view_windows.h"
+
+namespace pelorium {
+namespace {
+
+class GeneratedImages : public AppTest {
+ protected:
+  void Send(const std::string& window, const std::string& control, UserAction action, double value = 0) {
+    UserEvent event;
+    event.window = window;
+    event.control = control;
+    event.action = action;
+    event.value = value;
+    EXPECT_TRUE(app.Deliver(event)) << window << "." << control;
+  }
+  void Press(const std::string& window, const std::string& control, MouseButton button = MouseButton::Left) {
+    UserEvent event;
+    event.window = window;
+    event.control = control;
+    event.click.button = button;
+    EXPECT_TRUE(app.Deliver(event)) << window << "." << control;
+  }
+  void Paint(UserAction action, float x, float y) {
+    UserEvent event;
+    event.window = "Specialeffects3";
+    event.control = "Picture1";
+    event.action = action;
+    event.x = x;
+    event.y = y;
+    app.Deliver(event);
+  }
+  std::vector<std::uint32_t> Image() { return app.view->form36.Picture2.picture().Pixels(); }
+  int ViewAt(int x, int y) { return app.view->form36.Picture1.picture().PixelAt(x, y); }
+};
+
+TEST_F(GeneratedImages, SameSeedSamePlasma) {
+  Send("Plasma", "HScroll6", UserAction::Drag, 200);
+  Press("Plasma", "cmdCreateTile");
+  const auto first = Image();
+  EXPECT_EQ(first[0], 0U);
+  EXPECT_EQ(first[964], Rgb(200, 0, 0));
+  EXPECT_EQ(first[965], 0U);  // behind the last column
+  Press("Plasma", "Command1");
+  Press("Plasma", "cmdCreateTile");
+  EXPECT_NE(Image(), first);
+  app.FindWindow("Plasma")->Find("Text5")->SetOwnValue(std::string("12345326"));
+  Press("Plasma", "cmdCreateTile");
+  EXPECT_EQ(Image(), first);
+  EXPECT_TRUE(app.view->form36.Picture1.visible());
+  app.FindWindow("Plasma")->Find("Text3")->SetOwnValue(std::string("1e300"));  // a fault: the view comes back
+  Press("Plasma", "cmdCreateTile");
+  EXPECT_TRUE(app.view->form36.Picture1.visible());
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+}
+
+TEST_F(GeneratedImages, StrokesReachTheViewWhenTheyEnd) {
+  const int before = ViewAt(303, 304), gray = static_cast<int>(Rgb(128, 128, 128));
+  Paint(UserAction::MouseMove, 303, 304);
+  EXPECT_EQ(Image()[304 * 968 + 303], 0U);
+  Paint(UserAction::MouseDown, 293, 304);
+  Paint(UserAction::MouseMove, 303, 304);
+  EXPECT_EQ(static_cast<int>(Image()[304 * 968 + 308]), gray);
+  EXPECT_EQ(ViewAt(303, 304), before);
+  Paint(UserAction::MouseUp, 303, 304);
+  EXPECT_EQ(ViewAt(303, 304), gray);
+  PressItem("clearimage");
+  EXPECT_EQ(ViewAt(303, 304), before);
+  EXPECT_EQ(Image()[304 * 968 + 303], 0U);
+}
+
+TEST_F(GeneratedImages, NumberedPicturesComeBack) {
+  Press("Specialeffects3", "Command4");  // all white
+  Press("Specialeffects3", "Command36", MouseButton::Right);
+  PressItem("clearimage");
+  Press("Specialeffects3", "Command35");  // never stored
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+  EXPECT_EQ(Image()[968 * 5 + 5], 0U);
+  Press("specialeffects1", "Command36");
+  EXPECT_EQ(Image()[968 * 5 + 5], Rgb(255, 255, 255));
+}
+
+TEST_F(GeneratedImages, FilesGoToTheImageThatIsMeant) {
+  Picture file(20, 10);
+  file.backColour = Rgb(1, 2, 3);
+  file.Clear();
+  SavePicture(file, folder() / "a.png");
+  Texture& maker = app.imaging->texture;
+  const auto before = maker.Picture5.picture().Pixels();
+  platform.QueueAnswer("a.png");
+  Press("Form15", "Command33");
+  EXPECT_EQ(maker.Picture1.picture().PixelWidth(), 20);
+  EXPECT_EQ(maker.Picture5.picture().Pixels(), before);
+  EXPECT_TRUE(maker.Picture1.visible());
+  platform.QueueAnswer("missing.png");
+  Press("Form15", "Command2");
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+  EXPECT_FALSE(maker.Picture5.visible());
+  EXPECT_EQ(AsText(app.FindWindow("Form15")->Find("Text10")->Value()), "missing.png");
+  platform.QueueAnswer("b.BMP");
+  Press("Form15", "Command19");
+  platform.QueueAnswer("b.png");
+  Press("Form15", "Command1");
+  EXPECT_TRUE(std::filesystem::exists(folder() / "b.BMP"));
+  EXPECT_TRUE(std::filesystem::exists(folder() / "b.png.bmp"));
+  platform.QueueAnswer("b.BMP");
+  PressItem("openimage");
+  EXPECT_EQ(Image()[968 * 9 + 19], Rgb(1, 2, 3));
+  EXPECT_EQ(Image()[968 * 9 + 20], 0U);
+  EXPECT_EQ(Image()[968 * 10], 0U);
+}
+
+}  // namespace
+}  // namespace pelorium
