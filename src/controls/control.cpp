@@ -10,9 +10,10 @@
 namespace pelorium {
 
 std::string_view ControlKindName(ControlKind kind) {
-  static constexpr std::array<std::string_view, 15> kNames = {
-      "ScrollBar", "TextBox", "Label", "PushButton", "CheckBox", "OptionButton", "PictureBox",
-      "ListBox", "FileList", "DirList", "ProgressBar", "RichTextBox", "MenuItem", "Frame", "Shape"};
+  static constexpr std::array<std::string_view, 16> kNames = {
+      "ScrollBar",   "TextBox",  "Label",    "PushButton", "CheckBox", "OptionButton",
+      "PictureBox",  "ListBox",  "FileList", "DirList",    "ComboBox", "ProgressBar",
+      "RichTextBox", "MenuItem", "Frame",    "Shape"};
   return kNames[static_cast<std::size_t>(kind)];
 }
 

@@ -21,6 +21,7 @@ enum class ControlKind {
   ListBox,
   FileList,
   DirList,
+  ComboBox,
   ProgressBar,
   RichTextBox,
   MenuItem,

@@ -1,5 +1,6 @@
 // One table of the properties: what it is called, who has it, how it is read and written.
 #include "controls/properties.h"
+#include "controls/combo_box.h"
 
 #include <functional>
 
@@ -58,8 +59,9 @@ Property BarStep(std::string_view name, int ScrollBar::*field) {
 }
 
 Property PenColour(std::string_view name, Colour Picture::*field) {
-  return {name,
-          ReadOf<PictureBox>([field](const PictureBox& p) { return static_cast<double>(p.picture().*field); }),
+  return {name, ReadOf<PictureBox>([field](const PictureBox& p) {
+            return static_cast<double>(p.picture().*field);
+          }),
           WriteOf<PictureBox>([field](PictureBox& p, const PropertyValue& v) {
             p.picture().*field = ToInteger<Colour>(AsNumber(v));
           })};
@@ -92,6 +94,8 @@ std::vector<Property> BarAndTextProperties() {
        WriteOf<ScrollBar>([](ScrollBar& b, const PropertyValue& v) { b.SetMax(WholeOf(v)); })},
       BarStep("smallchange", &ScrollBar::smallChange),
       BarStep("largechange", &ScrollBar::largeChange),
+      {"text", ReadOf<ComboBox>([](const ComboBox& c) { return c.text(); }),
+       WriteOf<ComboBox>([](ComboBox& c, const PropertyValue& v) { c.Type(AsText(v)); })},
       {"text", ReadOf<TextBox>([](const TextBox& t) { return t.text(); }),
        WriteOf<TextBox>([](TextBox& t, const PropertyValue& v) { t.SetText(AsText(v)); })},
       {"max", ReadOf<ProgressBar>([](const ProgressBar& b) { return static_cast<double>(b.max()); }),
@@ -102,8 +106,12 @@ std::vector<Property> BarAndTextProperties() {
 
 std::vector<Property> PictureProperties() {
   return {
-      {"pixelwidth", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.measures().PixelWidth()); }), {}},
-      {"pixelheight", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.measures().PixelHeight()); }), {}},
+      {"pixelwidth",
+       ReadOf<PictureBox>([](const PictureBox& p) { return double(p.measures().PixelWidth()); }),
+       {}},
+      {"pixelheight",
+       ReadOf<PictureBox>([](const PictureBox& p) { return double(p.measures().PixelHeight()); }),
+       {}},
       {"scalewidth", ReadOf<PictureBox>([](const PictureBox& p) { return p.measures().ScaleWidth(); }),
        WriteOf<PictureBox>([](PictureBox& p, const PropertyValue& v) {
          p.picture().SetScale(AsNumber(v), p.measures().ScaleHeight());
@@ -115,7 +123,8 @@ std::vector<Property> PictureProperties() {
       PenColour("forecolor", &Picture::foreColour),
       PenColour("backcolor", &Picture::backColour),
       {"drawwidth", ReadOf<PictureBox>([](const PictureBox& p) { return double(p.picture().drawWidth); }),
-       WriteOf<PictureBox>([](PictureBox& p, const PropertyValue& v) { p.picture().drawWidth = WholeOf(v); })},
+       WriteOf<PictureBox>(
+           [](PictureBox& p, const PropertyValue& v) { p.picture().drawWidth = WholeOf(v); })},
   };
 }
 

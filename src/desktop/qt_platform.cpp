@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QImage>
@@ -11,6 +12,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTextDocument>
 #include <QUrl>
 #include <algorithm>
@@ -110,6 +112,13 @@ void QtPlatform::Print(const std::string& text) {
   if (!isWanted) return;
   QTextDocument document(ToQt(text));
   document.print(&printer);
+}
+
+std::filesystem::path QtPlatform::SettingsFolder(const std::filesystem::path& programFolder) {
+  const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  const QString folder = base + QStringLiteral("/pelorium");
+  const bool isThere = !base.isEmpty() && QDir().mkpath(folder);
+  return isThere ? std::filesystem::path(QFile::encodeName(folder).toStdString()) : programFolder;
 }
 
 void QtPlatform::OpenInBrowser(const std::string& address) {

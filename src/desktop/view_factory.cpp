@@ -3,6 +3,7 @@
 
 #include "desktop/bar_widget.h"
 #include "desktop/button_widgets.h"
+#include "desktop/combo_widget.h"
 #include "desktop/label_widgets.h"
 #include "desktop/list_widget.h"
 #include "desktop/picture_widget.h"
@@ -30,6 +31,8 @@ ControlView* MakeView(Control& control, Qt::Orientation orientation, Dispatcher&
     case ControlKind::FileList:
     case ControlKind::DirList:
       return new ListWidget(static_cast<ListBox&>(control), dispatcher, parent);
+    case ControlKind::ComboBox:
+      return new ComboWidget(static_cast<ComboBox&>(control), dispatcher, parent);
     case ControlKind::ProgressBar:
       return new ProgressWidget(static_cast<ProgressBar&>(control), dispatcher, parent);
     case ControlKind::Label:

@@ -35,6 +35,9 @@ class HeadlessPlatform : public Platform {
   std::string ClipboardText() override { return clipboard_; }
   void SetClipboardPicture(const Picture& picture) override;
   std::optional<Picture> ClipboardPicture() override { return clipboardPicture_; }
+  std::filesystem::path SettingsFolder(const std::filesystem::path& programFolder) override {
+    return programFolder;
+  }
   void Print(const std::string& text) override { printed_ = text; }
   void OpenInBrowser(const std::string& address) override { visited_ = address; }
   bool SetWallpaper(const std::filesystem::path&) override { return false; }

@@ -38,6 +38,9 @@ class Platform {
   virtual void SetClipboardPicture(const Picture& picture) = 0;
   // Empty when the clipboard holds no picture.
   virtual std::optional<Picture> ClipboardPicture() = 0;
+  // Where what a person keeps from one session to the next lies; a machine without such a place takes the
+  // program's folder.
+  virtual std::filesystem::path SettingsFolder(const std::filesystem::path& programFolder) = 0;
   virtual void Print(const std::string& text) = 0;
   virtual void OpenInBrowser(const std::string& address) = 0;
   // Puts a picture file behind everything on the machine's screen; false when nothing took it.

@@ -124,7 +124,8 @@ bool IsOneOf(ControlKind kind, std::initializer_list<ControlKind> kinds) {
 }
 
 bool IsList(const Control& control) {
-  return IsOneOf(control.kind(), {ControlKind::ListBox, ControlKind::FileList, ControlKind::DirList});
+  return IsOneOf(control.kind(),
+                 {ControlKind::ListBox, ControlKind::FileList, ControlKind::DirList, ControlKind::ComboBox});
 }
 
 bool CanBePressed(const Control& control) {
@@ -152,7 +153,7 @@ bool Applies(UserAction action, const Control& control) {
     case UserAction::Drag:
       return control.kind() == ControlKind::ScrollBar || IsList(control);
     case UserAction::Type:
-      return control.kind() == ControlKind::TextBox || control.kind() == ControlKind::RichTextBox;
+      return IsOneOf(control.kind(), {ControlKind::TextBox, ControlKind::RichTextBox, ControlKind::ComboBox});
     case UserAction::DoubleClick:
       return CanBeDoubleClicked(control);
     case UserAction::Key:

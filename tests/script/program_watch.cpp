@@ -423,7 +423,7 @@ void ProgramWatch::CompareFiles(Lines& lines) {
 }
 
 std::string LayoutLines(const LayoutItem& item, int depth) {
-  constexpr const char* kKinds[] = {"Column", "Row", "Frame", "BarRow", "Flow", "Single"};
+  constexpr const char* kKinds[] = {"Column", "Row", "Frame", "BarRow", "Flow", "Single", "Pane"};
   std::string lines(static_cast<std::size_t>(2 * depth), ' ');
   lines += kKinds[static_cast<int>(item.kind)];
   if (!item.title.empty()) lines += " " + Quoted(item.title);

@@ -1,6 +1,6 @@
 // Stories of the windows that make the image behind the model.
-#include "platform/picture_files.h"
 #include "app_fixture.h"
+#include "platform/picture_files.h"
 #include "windows/imaging/imaging_windows.h"
 #include "windows/imaging/texture_image_maker.h"
 #include "windows/view/form36_view.h"
@@ -113,6 +113,43 @@ TEST_F(GeneratedImages, FilesGoToTheImageThatIsMeant) {
   EXPECT_EQ(Image()[968 * 9 + 19], Rgb(1, 2, 3));
   EXPECT_EQ(Image()[968 * 9 + 20], 0U);
   EXPECT_EQ(Image()[968 * 10], 0U);
+}
+
+TEST_F(GeneratedImages, ACustomFilterIsKeptUnderItsName) {
+  const auto cell = [this](int number) {
+    return AsText(
+        app.FindWindow("frmCustomFilter")->Find("txtValue(" + std::to_string(number) + ")")->Value());
+  };
+  const auto type = [this](const char* control, const char* text) {
+    UserEvent event{"frmCustomFilter", control, UserAction::Type};
+    event.text = text;
+    app.Deliver(event);
+  };
+  platform.onModal = [&](Window&) {
+    Press("frmCustomFilter", "cmdOK");  // only the middle: the window stays
+    Send("frmCustomFilter", "cboBaseOn", UserAction::Drag, 2);
+    type("txtValue(0)", "-3x");
+    type("cboName", "mine");
+    Press("frmCustomFilter", "cmdOK");
+  };
+  Press("texture", "customit");
+  EXPECT_EQ(platform.TakeMessages(), std::vector<std::string>{"Filters must be at least 3x3 in size."});
+  EXPECT_TRUE(std::filesystem::exists(folder() / "filters.txt"));
+  platform.onModal = [&](Window&) {
+    Send("frmCustomFilter", "cboBaseOn", UserAction::Drag, 1);
+    EXPECT_EQ(cell(0) + " " + cell(16) + " " + cell(24), "0 0 1");
+    type("cboName", "mine");
+    EXPECT_EQ(cell(0) + " " + cell(16) + " " + cell(24), "-3 1 1");
+    Press("frmCustomFilter", "cmdCancel");
+  };
+  Press("texture", "customit");
+  platform.onModal = [&](Window&) { Press("frmAddNoise", "cmdCancel"); };
+  const double next = RandomSeries(app.random).Next();
+  Press("texture", "noisie");
+  EXPECT_EQ(RandomSeries(app.random).Next(), next);
+  platform.onModal = [&](Window&) { Press("frmAddNoise", "cmdOK"); };
+  Press("texture", "noisie");
+  EXPECT_NE(RandomSeries(app.random).Next(), next);
 }
 
 }  // namespace

@@ -22,8 +22,8 @@ const std::vector<const char*> kOrder = {
     "specialeffects6", "Form31",         "Form12",      "Form14",          "Form15",
     "Form47",          "uvimportexport", "convert",     "material",        "shapes",
     "shapes2",         "Dialog",         "texture",     "Specialeffects3", "Plasma",
-    "Plasmathree",     "frmPerlinNoise", "Form45",      "helpme",          "frmAbout",
-    "Form36",
+    "Plasmathree",     "frmPerlinNoise", "Form45",      "frmCustomFilter", "frmAddNoise",
+    "helpme",          "frmAbout",       "Form36",
 };
 
 }  // namespace

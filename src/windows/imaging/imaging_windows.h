@@ -16,6 +16,8 @@ struct ImagingWindows {
   class Form45& form45;
   class Form15& form15;
   class Form47& form47;
+  class FrmCustomFilter& frmCustomFilter;
+  class FrmAddNoise& frmAddNoise;
 };
 
 }  // namespace pelorium

@@ -102,15 +102,14 @@ LayoutItem PlasmaWindow::Layout(std::vector<LayoutItem> options) {
       BarRow(HScroll2),
       BarRow(HScroll9),
       Labelled("seed", Text5),
-      Flow({&Command1}),
-      Frame("Set Graylevel RGBs", std::move(corners)),
-      Frame("Gray Min /  Max", Rows(rangeBars, 0, rangeBars.size())),
-      Frame("by channel", {Flow({&Check3, &ave1, &ave2})}),
-      Frame("Tile", {Flow({&Check9})}),
+      Flow({&Command1, &cmdCreateTile, &cmdSetWallpaper}),
+      Single(lblTime),
   };
   for (LayoutItem& item : options) all.push_back(std::move(item));
-  all.push_back(Flow({&cmdCreateTile, &cmdSetWallpaper}));
-  all.push_back(Single(lblTime));
+  all.push_back(Flow({&Check3, &ave1, &ave2}));
+  all.push_back(Frame("Tile", {Flow({&Check9})}));
+  all.push_back(Frame("Set Graylevel RGBs", std::move(corners)));
+  all.push_back(Frame("Gray Min /  Max", Rows(rangeBars, 0, rangeBars.size())));
   return Column(std::move(all));
 }
 

@@ -49,7 +49,7 @@ class PlasmaWindow : public ToolWindow {
  protected:
   // What the controls say.
   virtual CornerPlasma Settings() const;
-  // The rows that the windows share, with `options` before the buttons.
+  // The rows that the windows share, with `options` below the buttons.
   LayoutItem Layout(std::vector<LayoutItem> options);
 
  private:

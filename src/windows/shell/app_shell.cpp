@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "controls/combo_box.h"
 #include "controls/lists.h"
 #include "controls/picture_box.h"
 #include "controls/scroll_bar.h"
@@ -63,7 +64,8 @@ bool DeliverTo(Control& control, const UserEvent& event) {
     case UserAction::Drag:
       return Drag(control, event.value);
     case UserAction::Type:
-      return On<TextBox>(control, [&](TextBox& box) { box.Type(event.text); });
+      return On<TextBox>(control, [&](TextBox& box) { box.Type(event.text); }) ||
+             On<ComboBox>(control, [&](ComboBox& box) { box.Type(event.text); });
     case UserAction::Resize:
       return On<PictureBox>(control, [&](PictureBox& box) { box.Resize(event.width, event.height); });
     case UserAction::MouseDown:

@@ -30,6 +30,9 @@ class SeenPlatform : public Platform {
   std::string ClipboardText() override { return machine_.ClipboardText(); }
   void SetClipboardPicture(const Picture& picture) override { machine_.SetClipboardPicture(picture); }
   std::optional<Picture> ClipboardPicture() override { return machine_.ClipboardPicture(); }
+  std::filesystem::path SettingsFolder(const std::filesystem::path& programFolder) override {
+    return machine_.SettingsFolder(programFolder);
+  }
   void Print(const std::string& text) override {
     show_();
     machine_.Print(text);
