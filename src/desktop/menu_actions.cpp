@@ -42,7 +42,6 @@ QToolButton* MenuActions::MakeButton(MenuItem& head, QWidget* parent) {
   button->setAutoRaise(true);
   button->setToolButtonStyle(Qt::ToolButtonTextOnly);
   button->setPopupMode(QToolButton::InstantPopup);
-  button->setStyleSheet("QToolButton::menu-indicator { image: none; }");
   QAction* action = Make(head, button);
   button->setDefaultAction(action);
   if (action->menu() != nullptr) button->setMenu(action->menu());
