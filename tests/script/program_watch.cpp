@@ -423,13 +423,14 @@ void ProgramWatch::CompareFiles(Lines& lines) {
 }
 
 std::string LayoutLines(const LayoutItem& item, int depth) {
-  constexpr const char* kKinds[] = {"Column", "Row", "Frame", "BarRow", "Flow", "Single"};
+  constexpr const char* kKinds[] = {"Column", "Row", "Frame", "BarRow", "Flow", "Single", "Pane"};
   std::string lines(static_cast<std::size_t>(2 * depth), ' ');
   lines += kKinds[static_cast<int>(item.kind)];
   if (!item.title.empty()) lines += " " + Quoted(item.title);
   if (!item.toolTip.empty()) lines += " tip " + Quoted(item.toolTip);
   if (item.stretches) lines += " stretches";
   if (item.isUpright) lines += " upright";
+  if (item.scrolls) lines += " scrolls";
   for (const Control* control : item.controls) lines += " " + control->name();
   lines += "\n";
   for (const LayoutItem& inner : item.items) lines += LayoutLines(inner, depth + 1);

@@ -332,7 +332,7 @@ LayoutItem Texture::SettingsColumn() {
       BarRow(HScroll34),
   };
   for (std::size_t number = kValues; number <= kCanyon; ++number) items.push_back(PanelOf(number));
-  return Column(std::move(items));
+  return Scrolling(Column(std::move(items)));
 }
 
 void Texture::MakeLayout() {
