@@ -50,4 +50,9 @@ LayoutItem Stretching(LayoutItem item) {
   return item;
 }
 
+LayoutItem Scrolling(LayoutItem item) {
+  item.scrolls = true;
+  return item;
+}
+
 }  // namespace pelorium

@@ -28,6 +28,7 @@ struct LayoutItem {
   std::vector<LayoutItem> items;   // of a Column, a Row or a Frame
   bool stretches = false;          // takes the room that is left over
   std::string toolTip = {};        // of a Frame
+  bool scrolls = false;            // shows what of its height there is room for
   bool isUpright = false;          // of a bar that stands beside its picture
 };
 
@@ -47,5 +48,7 @@ LayoutItem Upright(Control& bar);
 // A control with a text before it, aligned like a bar row.
 LayoutItem Labelled(std::string label, Control& control);
 LayoutItem Stretching(LayoutItem item);
+// As wide as it likes to be; beside something that takes the height there is.
+LayoutItem Scrolling(LayoutItem item);
 
 }  // namespace pelorium

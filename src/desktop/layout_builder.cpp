@@ -2,6 +2,8 @@
 #include "desktop/layout_builder.h"
 
 #include <QGroupBox>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "desktop/bar_widget.h"
@@ -97,7 +99,22 @@ QWidget* LayoutBuilder::MakeMenus(const Window& window, QWidget* parent) {
   return holder;
 }
 
+QWidget* LayoutBuilder::MakeScrolling(const LayoutItem& item, QWidget* parent) {
+  auto* area = new QScrollArea(parent);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  LayoutItem content = item;
+  content.scrolls = false;
+  area->setWidget(Make(content, area));
+  area->setFixedWidth(area->widget()->sizeHint().width() + area->verticalScrollBar()->sizeHint().width() +
+                      kGap);
+  return area;
+}
+
 QWidget* LayoutBuilder::Make(const LayoutItem& item, QWidget* parent) {
+  if (item.scrolls) return MakeScrolling(item, parent);
   switch (item.kind) {
     case LayoutKind::Column:
       return MakeColumn(item.items, new QWidget(parent));

@@ -30,6 +30,7 @@ class LayoutBuilder {
   QWidget* MakeRow(const LayoutItem& item, QWidget* parent);
   QWidget* MakeFrame(const LayoutItem& item, QWidget* parent);
   QWidget* MakeWrappedFrame(const LayoutItem& item, QWidget* parent);
+  QWidget* MakeScrolling(const LayoutItem& item, QWidget* parent);
   QWidget* MakePane(const LayoutItem& item, QWidget* parent);
   QWidget* MakeFlow(const std::vector<Control*>& controls, QWidget* parent);
   QWidget* MakeStandAlone(const LayoutItem& item, QWidget* parent);

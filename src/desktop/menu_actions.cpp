@@ -41,11 +41,9 @@ QToolButton* MenuActions::MakeButton(MenuItem& head, QWidget* parent) {
   auto* button = new QToolButton(parent);
   button->setAutoRaise(true);
   button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-  button->setPopupMode(QToolButton::InstantPopup);
-  button->setStyleSheet("QToolButton::menu-indicator { image: none; }");
   QAction* action = Make(head, button);
   button->setDefaultAction(action);
-  if (action->menu() != nullptr) button->setMenu(action->menu());
+  button->setPopupMode(QToolButton::InstantPopup);  // the action's menu asks for another
   button->setObjectName(ToQt(head.FullName()));
   return button;
 }

@@ -430,6 +430,7 @@ std::string LayoutLines(const LayoutItem& item, int depth) {
   if (!item.toolTip.empty()) lines += " tip " + Quoted(item.toolTip);
   if (item.stretches) lines += " stretches";
   if (item.isUpright) lines += " upright";
+  if (item.scrolls) lines += " scrolls";
   for (const Control* control : item.controls) lines += " " + control->name();
   lines += "\n";
   for (const LayoutItem& inner : item.items) lines += LayoutLines(inner, depth + 1);

@@ -76,6 +76,12 @@ set PointMark(0,15) 0
 set Faces(0,3).onoff 0
 set Faces(0,5).group 2
 set ProfilePts(1,0).Y 7
+drag texture.HScroll7 30
+drag texture.HScroll8 23
+press texture.Command49
+press texture.Command4
+drag texture.HScroll7 2
+drag texture.HScroll8 2
 set Form31.Text1 projects/sample.prj
 set Form31.Text2 projects/sample.prj
 set frmsaveprof.Text1 profiles/sample.txt

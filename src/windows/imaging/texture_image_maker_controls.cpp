@@ -323,24 +323,25 @@ LayoutItem Texture::SettingsColumn() {
   for (LayoutItem& row : BarsOf(kAlways)) widths.push_back(std::move(row));
   std::vector<LayoutItem> items = {
       Single(Picture11),
-      Flow({&Picture2, &Picture4, &Picture3, &Label2, &Label5, &Label12}),
-      Flow({&Label13, &Label14, &Label15, &Label16}),
+      Row({Single(Picture2), Single(Picture4), Single(Picture3), Labelled("x", Label2),
+           Labelled("y", Label5)}),
+      Row({Labelled("color", Label12), Labelled("b", Label13), Labelled("g", Label14), Labelled("r", Label15),
+           Labelled("gray", Label16)}),
       Frame("Gray/Color Level  Settings",
             {BarRow(HScroll2), BarRow(HScroll3), BarRow(HScroll4), BarRow(HScroll6)}),
       Frame("Patch/Line/Circle Width", std::move(widths)),
       BarRow(HScroll34),
   };
   for (std::size_t number = kValues; number <= kCanyon; ++number) items.push_back(PanelOf(number));
-  items.push_back(BarRow(HScroll35, {&Label32}));
-  items.push_back(BarRow(VScroll2));
-  return Column(std::move(items));
+  return Scrolling(Column(std::move(items)));
 }
 
 void Texture::MakeLayout() {
   std::vector<Control*> brushes = ChoicesOf(kBrush), presses;
   for (const auto& check : checks_) brushes.push_back(check.get());
   for (const auto& button : buttons_) presses.push_back(button.get());
-  LayoutItem images = Column({Pane({&Picture1, &Picture5}), BarRow(HScroll22), Single(ProgressBar1)});
+  LayoutItem images = Column({Pane({&Picture1, &Picture5}), BarRow(HScroll22), BarRow(HScroll35, {&Label32}),
+                              BarRow(VScroll2), Single(ProgressBar1)});
   SetLayout(Column({Flow(std::move(brushes)), Flow(std::move(presses)),
                     Stretching(Row({SettingsColumn(), Stretching(std::move(images)), Upright(VScroll1)}))}));
 }
