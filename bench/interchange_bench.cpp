@@ -102,7 +102,7 @@ void ImportObjThroughItsButton(benchmark::State& state) {
     app.Start();
     for (auto _ : state) {
       platform.QueueAnswer((folder / "a.obj").string());
-      app.interchange->form14.Command25.Press();
+      app.interchange->form14.imports.Command25.Press();
     }
     state.counters["faces"] = app.model.Part(0).maxfaces;
   }

@@ -18,6 +18,12 @@ void PictureBox::DrawStale() {
   if (std::exchange(isStale_, false)) onDraw(picture_);
 }
 
+void PictureBox::Fill(Colour colour) {
+  picture().backColour = colour;
+  picture().Clear();
+  NotifyChanged();
+}
+
 void PictureBox::Resize(int pixelWidth, int pixelHeight) {
   if (pixelWidth <= 0 || pixelHeight <= 0) return;
   if (onResize) {

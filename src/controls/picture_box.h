@@ -65,6 +65,8 @@ class PictureBox : public Control {
   std::function<void(int pixelWidth, int pixelHeight)> onResize;
 
   void Resize(int pixelWidth, int pixelHeight);
+  // One colour all over, as the ground of what is drawn from then on.
+  void Fill(Colour colour);
 
  private:
   void BeforeShowingOrHiding() override { DrawStale(); }

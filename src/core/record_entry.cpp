@@ -14,7 +14,9 @@ Field Held(double value, int lowest, int highest) {
   return ToInteger<Field>(std::clamp<double>(value, lowest, highest));
 }
 
-std::int32_t Corner(double typed) { return typed == 0 ? 0 : Held<std::int32_t>(typed, 1, kMaxPoints); }
+std::int32_t Corner(double typed) {
+  return RoundHalfEven(typed) == 0 ? 0 : Held<std::int32_t>(typed, 1, kMaxPoints);
+}
 
 }  // namespace
 
@@ -37,6 +39,7 @@ void StoreFaceEntry(ModelStore& model, int part, int face, const std::array<doub
 void StoreCountEntry(ModelStore& model, int part, double points, double faces) {
   model.Part(part).maxpoints = Held<std::int16_t>(points, 0, kMaxPoints);
   model.Part(part).maxfaces = Held<std::int16_t>(faces, 0, kMaxFaces);
+  model.Part(part).grid.reset();
 }
 
 }  // namespace pelorium

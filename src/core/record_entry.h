@@ -15,7 +15,7 @@ void StorePointEntry(ModelStore& model, int part, int point, const Vec3& place, 
 void StoreFaceEntry(ModelStore& model, int part, int face, const std::array<double, 3>& corners,
                     double onoff);
 
-// At most 23000 points and 7700 faces.
+// At most 23000 points and 7700 faces. The Part is no laid body any more.
 void StoreCountEntry(ModelStore& model, int part, double points, double faces);
 
 }  // namespace pelorium

@@ -5,6 +5,8 @@
 #include "windows/frame/command_table.h"
 #include "windows/frame/frame_windows.h"
 #include "windows/frame/mdi_form1.h"
+#include "windows/frame/open_file.h"
+#include "windows/shell/event_text.h"
 #include "windows/view/command_row.h"
 
 namespace pelorium {
@@ -31,6 +33,41 @@ TEST_F(CommandSet, ClosingAWindowEndsTheTyping) {
   EXPECT_EQ(AsText(app.FindWindow("Form51")->Find("Text3")->Value()), "7");
   app.Deliver({"Form51", "", UserAction::CloseWindow});
   EXPECT_EQ(AsText(app.FindWindow("Form51")->Find("Text3")->Value()), "1");
+}
+
+TEST_F(CommandSet, EachKindOfFileIsOpenedByItsButton) {
+  const std::string face = "0\nSECTION\n2\nENTITIES\n0\n3DFACE\n12\n2\n22\n0\n32\n0\n13\n";
+  struct Case {
+    const char *name, *button;
+    std::string text = {};
+    const char* box = nullptr;
+  };
+  const std::vector<Case> cases = {
+      {"a.prj", "Form31.Command15"},
+      {"a.obj", "Form14.Command25", "f 1 2 3\n"},
+      {"b.obj", "Form14.Command1", "f 1/1 2/2 3/3\n"},
+      {"a.dxf", "Form12.Command12", face + "2\n23\n0\n33\n0\n"},
+      {"b.dxf", "Form12.Command13", face + "9\n23\n0\n33\n0\n"},
+      {"c.dxf", "Form12.Command2", "0\nSECTION\n2\nENTITIES\n0\nPOLYLINE\n"},
+      {"a.uvs", "Form14.Command2", "", "Form14.Text13"},
+      {"a.tex", "Form31.Command11"},
+      {"a.tuv", "convert.Command1"},
+      {"a.txt", "shapes2.Command22", "Part Name\n", "shapes2.Text11"},
+      {"b.txt", "frmsaveprof.Command2", " 1 2 3\n"},
+      {"a.bmp", "Form47.Command3"},
+  };
+  for (const Case& c : cases) {
+    const std::filesystem::path file = folder() / c.name;
+    WriteBytes(file, c.text);
+    std::vector<std::string> done;
+    OpenFile(app, file,
+             {[&](const std::filesystem::path& answer) { done.push_back("answer " + answer.string()); },
+              [&](const UserEvent& event) { done.push_back(ScriptLine(event)); }});
+    const std::string first = c.box == nullptr
+                                  ? "answer " + file.string()
+                                  : "type " + std::string(c.box) + " " + ScriptWord(file.string());
+    EXPECT_EQ(done, (std::vector<std::string>{first, "press " + std::string(c.button)})) << c.name;
+  }
 }
 
 // Exit hides a few windows by name first, then the others in the program's order.

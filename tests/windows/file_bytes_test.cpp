@@ -81,19 +81,19 @@ TEST_F(FileBytes, ABadProjectEndsQuietlyAndTheNextCommandWorks) {
 TEST_F(FileBytes, OfObjFiles) {
   MakeCup();
   Form14& window = app.interchange->form14;
-  window.Check3.SetValue(true);
+  window.options.Check3.SetValue(true);
   const std::string obj = (folder() / "objs" / "cup größe.obj").string();
   Answer(obj, window.Command26);
   EXPECT_EQ(window.Text13.text(), obj);
   EXPECT_EQ(window.File1.items(), Lines{"cup größe.obj"});  // the list is read again
   EXPECT_TRUE(BytesOf(obj).starts_with("mtllib " + obj + "_materialfile.mtl\r\nv 50 -80 0\r\n"));
   EXPECT_TRUE(BytesOf(obj + "_materialfile.mtl").starts_with("newmtl material_0\r\n"));
-  Answer(obj, window.Command25);
+  Answer(obj, window.imports.Command25);
   EXPECT_TRUE(BytesOf(folder() / "vectors.txt").starts_with("50 -80 0\r\n"));
   EXPECT_TRUE(BytesOf(folder() / "faces.txt").starts_with("1 2 38\r\n"));
   WriteBytes(obj, "v 1 2 3\nv 1.0x 2 3");
   app.faults.TakeAll();
-  Answer(obj, window.Command25);
+  Answer(obj, window.imports.Command25);
   EXPECT_EQ(app.faults.TakeAll(), Lines{"Form14.Command25: bad number: \"1.0x\", line 2 in cup größe.obj"});
 }
 

@@ -36,10 +36,10 @@ TEST_F(UvWindows, TheNamedFileGivesTheMappingOrTheModel) {
   EXPECT_EQ(app.notices.TakeAll().back(), "3 UV points, 1 UV faces from tri.obj");
 
   form14.Text13.SetText((folder() / "map.uvs").string());
-  form14.Command4.Press();
+  form14.uvs.Command4.Press();
   app.view->form51.HScroll4.SetValue(1);
-  form14.HScroll2.box.Type("20");
-  form14.Command3.Press();
+  form14.imports.HScroll2.box.Type("20");
+  form14.uvs.Command3.Press();
   EXPECT_EQ(app.model.Part(1).PartName, "map.uvs");
   EXPECT_EQ(PointsText(app.model, 1, 1, 2), "5 10 10 | 20 0 10");
   EXPECT_EQ(FacesText(app.model, 1, 1, 1), "2 3 1");
@@ -56,13 +56,13 @@ TEST_F(UvWindows, TheOtherWindowAsksFirst) {
   uv.Check6.SetValue(true);
   app.view->form5.Text3.SetText("5");
   platform.QueueAnswer(file.string());
-  uv.Command1.Press();
+  uv.imports.Command1.Press();
   EXPECT_EQ(PointsText(app.model, 0, 1, 3), "0 0 5 | 10 0 5 | 0 0 15");
   EXPECT_EQ(app.model.Faces(0, 1).vt3, 1);
   EXPECT_EQ(uv.Text13.text(), file.string());
 
-  uv.Check3.SetValue(true);
-  uv.Check5.SetValue(true);
+  uv.options.Check3.SetValue(true);
+  uv.options.Check5.SetValue(true);
   platform.QueueAnswer((folder() / "objs" / "old.obj").string());
   uv.Command26.Press();
   EXPECT_EQ(
@@ -72,8 +72,8 @@ TEST_F(UvWindows, TheOtherWindowAsksFirst) {
   EXPECT_TRUE(BytesOf(folder() / "objs" / "materialfile.mtl").starts_with("newmtl material_0\r\n"));
 
   platform.TakeDialogs();
-  uv.Command4.Press();
-  uv.Command2.Press();
+  uv.uvs.Command4.Press();
+  uv.uvs.Command2.Press();
   const auto dialogs = platform.TakeDialogs();
   EXPECT_TRUE(dialogs.at(0).save && !dialogs.at(1).save);
   EXPECT_EQ(dialogs.at(1).folder, folder() / "uvmapperclassicuvs");

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/numbers.h"
+#include "core/record_entry.h"
 #include "facetools/draw_face.h"
 #include "facetools/face_measures.h"
 #include "facetools/flatten_face.h"
@@ -25,14 +26,6 @@ namespace {
 
 constexpr int kShownDecimals = 2;
 constexpr std::array<Axis, 3> kAxes = {Axis::X, Axis::Y, Axis::Z};
-
-// A typed number as a whole one in low..high.
-int Held(double number, int low, int high) { return ToInteger<int>(std::clamp<double>(number, low, high)); }
-
-// A corner box: 0 stands for itself, everything else for a point of the table.
-int HeldCorner(const TextBox& box) {
-  return RoundHalfEven(box.Number()) == 0 ? 0 : Held(box.Number(), 1, kMaxPoints);
-}
 
 void FillBox(TextBox& box, const std::string& text, bool evenIfTyped) {
   if (evenIfTyped || !box.isTyped()) box.SetText(text);
@@ -242,10 +235,8 @@ void EditByFace::ShowFace(Fill fill) {
 }
 
 void EditByFace::StorePoint() {
-  const int part = CurrentPart(app_), number = VScroll1.value();
-  PointRec& point = app_.model.Points(part, number);
-  for (std::size_t i = 0; i < kAxes.size(); ++i) Coordinate(point, kAxes[i]) = pointBoxes_[i]->Number();
-  point.onoff = app_.model.PointMark(part, number) = Narrow<std::int16_t>(Held(Text4.Number(), 0, 1));
+  StorePointEntry(app_.model, CurrentPart(app_), VScroll1.value(),
+                  {Text1.Number(), Text2.Number(), Text3.Number()}, Text4.Number());
 }
 
 void EditByFace::MovePoint(Axis axis, double by) {
@@ -253,15 +244,11 @@ void EditByFace::MovePoint(Axis axis, double by) {
   ShowPoint(Fill::All);
 }
 
-// A corner 0 is kept, but for the first one; a 0 elsewhere makes the first corner point 1.
 void EditByFace::StoreCorners() {
-  FaceRec& face = ChosenFace();
-  std::array<int, 3> numbers;
-  std::transform(cornerBoxes_.begin(), cornerBoxes_.end(), numbers.begin(),
-                 [](const TextBox* box) { return HeldCorner(*box); });
-  if (std::find(numbers.begin(), numbers.end(), 0) != numbers.end()) numbers[0] = 1;
-  face.corner1pt = numbers[0], face.corner2pt = numbers[1], face.corner3pt = numbers[2];
-  face.onoff = Narrow<std::int16_t>(Held(Text8.Number(), 0, 1));
+  StoreFaceEntry(app_.model, CurrentPart(app_), VScroll2.value(),
+                 {Text5.Number(), Text6.Number(), Text7.Number()}, Text8.Number());
+  const FaceRec& face = ChosenFace();
+  const std::array<int, 3> numbers = {face.corner1pt, face.corner2pt, face.corner3pt};
   for (std::size_t i = 0; i < numbers.size(); ++i) ShowStored(*cornerBoxes_[i], numbers[i]);
   ShowStored(Text8, face.onoff);
   ShowPlaces(Fill::All);
@@ -281,14 +268,10 @@ void EditByFace::StorePlaces() {
 }
 
 void EditByFace::StoreCounts() {
-  PartHeader& part = app_.model.Part(CurrentPart(app_));
-  const auto counted = [](TextBox& box, int most) {
-    if (box.Number() > most) box.SetText(std::to_string(most));
-    return Narrow<std::int16_t>(Held(box.Number(), 0, most));
-  };
-  part.maxpoints = counted(Text9, kMaxPoints);
-  part.maxfaces = counted(Text10, kMaxFaces);
-  part.grid.reset();
+  StoreCountEntry(app_.model, CurrentPart(app_), Text9.Number(), Text10.Number());
+  const PartHeader& part = app_.model.Part(CurrentPart(app_));
+  if (Text9.Number() > kMaxPoints) Text9.SetText(std::to_string(kMaxPoints));
+  if (Text10.Number() > kMaxFaces) Text10.SetText(std::to_string(kMaxFaces));
   VScroll1.SetMax(part.maxpoints);
   VScroll2.SetMax(std::max<int>(VScroll2.min(), part.maxfaces));
 }

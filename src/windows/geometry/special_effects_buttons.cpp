@@ -64,7 +64,7 @@ constexpr const char* kLastToFirstTip = "either button: the last ring of points 
 constexpr const char* kCombineTip =
     "left button: puts the current Part behind the other one's points and faces, right button: at the "
     "offsets";
-constexpr const char* kCopyTip = "either button: points and faces that are on, at the offsets of the combine";
+constexpr const char* kCopyTip = "Copies currently chosen part to a selected part# ";
 constexpr const char* kAddPartTip = "either button: points and faces that are on, behind those of that Part";
 constexpr const char* kDisjointTip =
     "either button: faces that are on, each with three points of its own, at the offsets of the combine";

@@ -7,16 +7,6 @@
 
 namespace pelorium {
 
-namespace {
-
-void Fill(PictureBox& box, Colour colour) {
-  box.picture().backColour = colour;
-  box.picture().Clear();
-  box.NotifyChanged();
-}
-
-}  // namespace
-
 Form45::Form45(App& app) : ToolWindow(app, "Form45", "Gradiant maker") {
   for (ScrollBar* bar : {&HScroll1, &HScroll2, &HScroll3, &HScroll4, &HScroll5, &HScroll6}) {
     bar->onChange = [this] { ShowSwatches(); };
@@ -47,8 +37,8 @@ Gradient Form45::Chosen() const {
 }
 
 void Form45::ShowSwatches() {
-  Fill(Picture2, Chosen().start);
-  Fill(Picture3, Chosen().end);
+  Picture2.Fill(Chosen().start);
+  Picture3.Fill(Chosen().end);
 }
 
 // The lines are one wide whatever the point size, which both images have again afterwards.

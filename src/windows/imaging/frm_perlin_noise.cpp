@@ -11,8 +11,7 @@ namespace pelorium {
 
 FrmPerlinNoise::FrmPerlinNoise(App& app) : ToolWindow(app, "frmPerlinNoise", "Noise maker") {
   SetRole(WindowRole::Page);
-  Picture1.picture().backColour = 0;
-  Picture1.picture().Clear();
+  Picture1.Fill(0);
   ProgressBar1.SetToolTip("how far the run is");
   OnEdit(
       Command2, [this] { MakeNoise(); }, kChangeOnly);

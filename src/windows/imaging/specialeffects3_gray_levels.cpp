@@ -113,8 +113,7 @@ void SpecialEffects3::MakeSwatches() {
   for (const int gray : kSwatchGrays) {
     auto swatch = std::make_unique<PictureBox>(*this, "Picture" + std::to_string(number++), kSwatchSide,
                                                kSwatchSide, "gray level " + std::to_string(gray));
-    swatch->picture().backColour = Rgb(gray, gray, gray);
-    swatch->picture().Clear();
+    swatch->Fill(Rgb(gray, gray, gray));
     swatch->onMouseDown = [this, gray](const MouseEvent&) { sliders[kGraySlider - 1]->SetValue(gray); };
     swatches.push_back(std::move(swatch));
   }

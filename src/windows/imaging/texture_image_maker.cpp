@@ -15,13 +15,6 @@ namespace {
 
 constexpr int kEdge = 4;  // pixels that a box is larger than its picture
 
-void Fill(PictureBox& box, Colour colour) {
-  if (box.picture().backColour == colour) return;
-  box.picture().backColour = colour;
-  box.picture().Clear();
-  box.NotifyChanged();
-}
-
 void TakeSize(PictureBox& box) {
   box.width = box.measures().PixelWidth() + kEdge;
   box.height = box.measures().PixelHeight() + kEdge;
@@ -37,7 +30,7 @@ Texture::Texture(App& app) : ToolWindow(app, "texture", "Image maker") {
   BindMouse();
   MakeLayout();
   for (PictureBox* box : {&Picture1, &Picture5}) {
-    Fill(*box, kWhite);
+    box->Fill(kWhite);
     TakeSize(*box);
   }
   Image1.SetVisible(false);
@@ -106,9 +99,9 @@ Colour Texture::ChosenColour() const { return Rgb(HScroll2.value(), HScroll3.val
 void Texture::TakeChosenColour() {
   const Colour chosen = ChosenColour();
   Picture1.picture().foreColour = Picture5.picture().foreColour = chosen;
-  Fill(Picture2, chosen);
+  Picture2.Fill(chosen);
   const int gray = GrayLevel(static_cast<int>(chosen));
-  Fill(Picture4, Rgb(gray, gray, gray));
+  Picture4.Fill(Rgb(gray, gray, gray));
 }
 
 void Texture::ChooseColour(Colour colour) {

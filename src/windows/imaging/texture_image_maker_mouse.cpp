@@ -25,7 +25,7 @@ int PixelUnder(const Picture& picture, const MouseEvent& event) {
 
 }  // namespace
 
-// A press and a release also move: a click leaves a mark.
+// A press is a move as well: a click leaves a mark.
 void Texture::BindMouse() {
   for (const Image image : {Image::Foreground, Image::Background}) {
     PictureBox& box = BoxOf(image);
@@ -79,12 +79,7 @@ Colour Texture::ShowColourAt(const PictureBox& box, const MouseEvent& event) {
 
 // Blue is shown as it comes out of the number: the other channels are its fraction.
 void Texture::ShowColour(Colour colour) {
-  Picture& swatch = Picture3.picture();
-  if (swatch.backColour != colour) {
-    swatch.backColour = colour;
-    swatch.Clear();
-    Picture3.NotifyChanged();
-  }
+  if (Picture3.picture().backColour != colour) Picture3.Fill(colour);
   Label12.SetCaption(std::to_string(colour));
   Label13.SetCaption(GeneralForm(colour / 65536.0));
   Label14.SetCaption(std::to_string(Green(colour)));

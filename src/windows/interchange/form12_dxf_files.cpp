@@ -98,9 +98,8 @@ void Form12::AskAndImport(const char* folder, Reader read) {
 }
 
 void Form12::Import(Reader read) {
-  ImportFile(app_, Text6.text(), [this, read](ByteSource& file) {
-    read(app_.model, CurrentPart(app_), file, HScroll5.Number());
-  });
+  ImportFile(app_, Text6.text(),
+             [this, read](ByteSource& file) { read(app_.model, CurrentPart(app_), file, HScroll5.Shown()); });
 }
 
 }  // namespace pelorium

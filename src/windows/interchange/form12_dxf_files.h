@@ -56,8 +56,7 @@ class Form12 : public ToolWindow {
                      {-2000, 2000, 10},
                      "Import Scale",
                      "factor of all coordinates that are imported; below 0 they are mirrored through 0, 0, 0",
-                     kTenths},
-                    Typing::IsTheValue};
+                     kTenths}};
   PushButton Command12{*this, "Command12", "Import (tri)",
                        "each 3DFACE becomes a face with points of its own"};
   PushButton Command13{*this, "Command13", "Import (quad)", "each 3DFACE becomes two faces"};

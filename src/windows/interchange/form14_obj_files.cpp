@@ -5,7 +5,7 @@
 #include "interchange/material_file.h"
 #include "interchange/obj_export.h"
 #include "windows/interchange/import_file.h"
-#include "windows/interchange/scratch_files.h"
+#include "windows/interchange/import_obj.h"
 #include "windows/interchange/uv_commands.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
@@ -19,9 +19,8 @@ constexpr const char* kMaterialFileEnding = "_materialfile.mtl";  // behind the 
 
 Form14::Form14(App& app) : ToolWindow(app, "Form14", "Import/Export Obj  (.obj)") {
   Text13.SetText((app.applicationPath / "obj1.obj").string());
-  Check2.onClick = [this](const Click&) { Check2_Click(); };
-  OnFile(Command25, [this] { Import(ObjKind::Plain, "All Files (*.obj)|*.obj"); });
-  OnFile(Command1, [this] { Import(ObjKind::WithSlashes, "All Files (*.obj*)|*.obj*"); });
+  OnFile(imports.Command25, [this] { Import(ObjKind::Plain, "All Files (*.obj)|*.obj"); });
+  OnFile(imports.Command1, [this] { Import(ObjKind::WithSlashes, "All Files (*.obj*)|*.obj*"); });
   OnFile(Command26, [this] { Command26_Click(); });
   BindUvButtons();
   BrowseInto(Dir1, File1, Text13);
@@ -32,13 +31,14 @@ LayoutItem Form14::DeclareLayout() {
   return Column({
       Labelled("File", Text13),
       Row({Single(Dir1), Single(File1)}),
-      Frame("Import", {BarRow(HScroll2), Flow({&Check7}), Flow({&Command25, &Command1}),
-                       Single(withSlashesNote), Single(Label1)}),
-      Frame("Groups", {Flow({&Check2, &Check13, &Check1})}),
-      Frame("Export",
-            {Flow({&Check3, &Option1, &Option2}), Flow({&Check5, &Check4, &Check12}), Flow({&Command26})}),
+      Frame("Import",
+            {BarRow(imports.HScroll2), Flow({&imports.Check7}), Flow({&imports.Command25, &imports.Command1}),
+             Single(withSlashesNote), Single(Label1)}),
+      Frame("Groups", {Flow({&options.Check2, &options.Check13, &options.Check1})}),
+      Frame("Export", {Flow({&options.Check3, &Option1, &Option2}),
+                       Flow({&options.Check5, &options.Check4, &options.Check12}), Flow({&Command26})}),
       Frame("Manage texture uv's mapping  (UVMapper Classic)",
-            {Flow({&Command2, &Command3, &Command4, &Command5, &Command6, &Command17})}),
+            {Flow({&uvs.Command2, &uvs.Command3, &uvs.Command4, &uvs.Command5, &Command6, &Command17})}),
       Frame("Model Part# from obj UV's options", {Flow({&Command7, &Command16})}),
       Single(sizesNote),
       Single(treesNote),
@@ -51,24 +51,24 @@ void Form14::BindUvButtons() {
     OnEdit(
         button, [this, &format] { ImportUvs(app_, Text13.text(), format); }, kRefreshOnly);
   };
-  onMapping(Command2, kUvsFormat);
+  onMapping(uvs.Command2, kUvsFormat);
   onMapping(Command6, kObjFormat);
   onMapping(Command17, kObjFormatOf3);
   const auto onModel = [this](PushButton& button, const UvFormat& format) {
     OnFile(button, [this, &format] { ImportMap(format); });
   };
-  onModel(Command3, kUvsFormat);
+  onModel(uvs.Command3, kUvsFormat);
   onModel(Command7, kObjFormat);
   onModel(Command16, kObjFormatOf3);
-  OnFile(Command4, [this] { ExportUvs(app_, Text13.text()); });
-  OnFile(Command5, [this] { ExportTopViewAsUvs(app_, Text13.text()); });
+  OnFile(uvs.Command4, [this] { ExportUvs(app_, Text13.text()); });
+  OnFile(uvs.Command5, [this] { ExportTopViewAsUvs(app_, Text13.text()); });
 }
 
 // Only the file of the UV mapper gives the Part its name.
 void Form14::ImportMap(const UvFormat& format) {
   const std::filesystem::path file = Text13.text();
   if (&format == &kUvsFormat) app_.model.Part(CurrentPart(app_)).PartName = file.filename().string();
-  ImportUvsAsModel(app_, file, format, HScroll2.Number());
+  ImportUvsAsModel(app_, file, format, imports.HScroll2.Shown());
   Label1.SetCaption(ImportedCounts(app_));
 }
 
@@ -77,24 +77,11 @@ void Form14::Load() {
   File1.SetFolder(app_.applicationPath / "objs");
 }
 
-void Form14::Check2_Click() {
-  Check1.SetValue(Check2.value());
-  Check13.SetValue(Check2.value());
-}
-
 void Form14::Import(ObjKind kind, const char* filter) {
   const auto name = AskFileName(app_, {false, "Open", "objs", filter, ""});
   if (name.empty()) return;
   Text13.SetText(name.string());
-  ImportFile(app_, name, [&](ByteSource& file) {
-    const ObjLines lines = SplitObj(file, kind, Check7.value());
-    WriteScratchFiles(app_, lines.points.text(), lines.faces.text());
-    ObjImportSettings settings;
-    settings.kind = kind;
-    settings.scale = HScroll2.Number();
-    settings.origin = Origin(app_);
-    ReadObjLines(app_.model, CurrentPart(app_), lines, settings);
-  });
+  ImportObj(app_, name, imports.Settings(app_, kind));
   Label1.SetCaption(ImportedCounts(app_));
 }
 
@@ -108,13 +95,7 @@ void Form14::Command26_Click() {
   WriteFile(FileNamed(app_, materialFile), [this](TextWriter& out) {
     WriteMaterialFile(app_.model, Option2.value() ? ".psd" : ".bmp", out);
   });
-  ObjExportSettings settings;
-  if (Check3.value()) settings.materialLibrary = materialFile;
-  settings.groupPerPart = Check13.value();
-  settings.groupPerFace = Check1.value();
-  settings.textureCoordinates = Check5.value();
-  settings.scaledDown = Check12.value();
-  ExportFile(app_, name, [&](TextWriter& out) { WriteObj(app_.model, settings, out); });
+  ExportFile(app_, name, [&](TextWriter& out) { WriteObj(app_.model, options.Settings(materialFile), out); });
 }
 
 }  // namespace pelorium

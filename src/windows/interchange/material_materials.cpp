@@ -81,9 +81,7 @@ double ValueOf(const M& material, const Field& field) {
 }
 
 void ShowColour(PictureBox& box, double red, double green, double blue) {
-  box.picture().backColour = Rgb(ScreenChannel(red), ScreenChannel(green), ScreenChannel(blue));
-  box.picture().Clear();
-  box.NotifyChanged();
+  box.Fill(Rgb(ScreenChannel(red), ScreenChannel(green), ScreenChannel(blue)));
 }
 
 }  // namespace

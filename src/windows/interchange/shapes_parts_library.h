@@ -60,7 +60,7 @@ class PartsLibrary : public ToolWindow {
                       "saves all part number in model objects as a single shape obj"};
   PushButton Command22{*this, "Command22", "Import", "reads the .txt part into the Part"};
   PushButton Command21{*this, "Command21", "Save Part #", "saves the Part as a .txt part, unscaled"};
-  PushButton Command9{*this, "Command9", "Combine All  into Part#",
+  PushButton Command9{*this, "Command9", "Combine All  into Part #",
                       "this effectively collapses all part# into a single obj and erases all other parts in "
                       "memory"};
   PushButton Command6{*this, "Command6", "Center", "moves the Part so that its point 1 lies on the origin"};

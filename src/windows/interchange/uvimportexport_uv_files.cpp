@@ -22,23 +22,20 @@ constexpr const char* kMaterialFile = "materialfile.mtl";
 
 UvImportExport::UvImportExport(App& app) : ToolWindow(app, "uvimportexport", "Import export UV's") {
   Text13.SetText((app.applicationPath / "obj1.uvs").string());
-  Check2.onClick = [this](const Click&) {
-    Check1.SetValue(Check2.value());
-    Check13.SetValue(Check2.value());
-  };
   BindUvButtons();
-  OnFile(Command25, [this] { Import(ObjKind::Plain, "All Files (*.obj)|*.obj"); });
-  OnFile(Command1, [this] { Import(ObjKind::WithSlashes, "All Files (*.obj*)|*.obj*"); });
+  OnFile(imports.Command25, [this] { Import(ObjKind::Plain, "All Files (*.obj)|*.obj"); });
+  OnFile(imports.Command1, [this] { Import(ObjKind::WithSlashes, "All Files (*.obj*)|*.obj*"); });
   OnFile(Command26, [this] { Command26_Click(); });
   BrowseInto(Dir1, File1, Text13);
   SetLayout(Column({
       Labelled("File", Text13),
       Row({Single(Dir1), Single(File1)}),
       Frame("Manage texture uv's mapping  (UVMapper Classic)",
-            {Flow({&Command2, &Command3, &Command4, &Command5})}),
-      Frame("Import",
-            {BarRow(HScroll2), Flow({&Check7, &Check6}), Flow({&Command25, &Command1}), Single(Label1)}),
-      Frame("Export", {Flow({&Check2, &Check13, &Check1}), Flow({&Check3, &Check5, &Check4, &Check12}),
+            {Flow({&uvs.Command2, &uvs.Command3, &uvs.Command4, &uvs.Command5})}),
+      Frame("Import", {BarRow(imports.HScroll2), Flow({&imports.Check7, &Check6}),
+                       Flow({&imports.Command25, &imports.Command1}), Single(Label1)}),
+      Frame("Export", {Flow({&options.Check2, &options.Check13, &options.Check1}),
+                       Flow({&options.Check3, &options.Check5, &options.Check4, &options.Check12}),
                        Flow({&Command26})}),
   }));
 }
@@ -60,22 +57,22 @@ bool UvImportExport::AskUvsName(bool save) {
 
 void UvImportExport::BindUvButtons() {
   OnEdit(
-      Command2,
+      uvs.Command2,
       [this] {
         if (AskUvsName(false)) ImportUvs(app_, Text13.text(), kUvsFormat);
       },
       kRefreshOnly);
-  OnFile(Command3, [this] {
+  OnFile(uvs.Command3, [this] {
     if (!AskUvsName(false)) return;
     const std::filesystem::path file = Text13.text();
     app_.model.Part(CurrentPart(app_)).PartName = file.filename().string();
-    ImportUvsAsModel(app_, file, kUvsFormat, HScroll2.Number());
+    ImportUvsAsModel(app_, file, kUvsFormat, imports.HScroll2.Shown());
     Label1.SetCaption(ImportedCounts(app_));
   });
-  OnFile(Command4, [this] {
+  OnFile(uvs.Command4, [this] {
     if (AskUvsName(true)) ExportUvs(app_, Text13.text());
   });
-  OnFile(Command5, [this] {
+  OnFile(uvs.Command5, [this] {
     if (AskUvsName(true)) ExportTopViewAsUvs(app_, Text13.text());
   });
 }
@@ -83,12 +80,7 @@ void UvImportExport::BindUvButtons() {
 // The mapping comes from the same file, once the geometry is there.
 void UvImportExport::Import(ObjKind kind, const char* filter) {
   if (!AskName(false, "Open", "objs", filter)) return;
-  ObjImportSettings settings;
-  settings.kind = kind;
-  settings.offFacesAsOn = Check7.value();
-  settings.scale = HScroll2.Number();
-  settings.origin = Origin(app_);
-  ImportObj(app_, Text13.text(), settings);
+  ImportObj(app_, Text13.text(), imports.Settings(app_, kind));
   Label1.SetCaption(ImportedCounts(app_));
   if (kind != ObjKind::WithSlashes || !Check6.value()) return;
   ImportUvs(app_, Text13.text(), kObjFormat);
@@ -101,13 +93,8 @@ void UvImportExport::Command26_Click() {
   WriteFile(Dir1.folder() / kMaterialFile, [this](TextWriter& out) {
     WriteMaterialFile(app_.model, app_.interchange->form14.Option2.value() ? ".psd" : ".bmp", out);
   });
-  ObjExportSettings settings;
+  ObjExportSettings settings = options.Settings(kMaterialFile);
   settings.dialect = ObjDialect::Older;
-  if (Check3.value()) settings.materialLibrary = kMaterialFile;
-  settings.groupPerPart = Check13.value();
-  settings.groupPerFace = Check1.value();
-  settings.textureCoordinates = Check5.value();
-  settings.scaledDown = Check12.value();
   ExportFile(app_, Text13.text(), [&](TextWriter& out) { WriteObj(app_.model, settings, out); });
 }
 
