@@ -3,6 +3,7 @@
 
 #include "app_fixture.h"
 #include "controls/boxed_bar.h"
+#include "platform/picture_files.h"
 #include "windows/imaging/imaging_windows.h"
 #include "windows/imaging/texture_image_maker.h"
 #include "windows/interchange/interchange_windows.h"
@@ -58,10 +59,15 @@ TEST_F(MaterialWindow, MapsAreSavedUnderTheNamesOfTheMaterialFile) {
   window.Command5.Press();
   EXPECT_EQ(foreground.PixelAt(3, 4), static_cast<int>(Rgb(9, 8, 7)));
   EXPECT_EQ(background.PixelAt(3, 4), static_cast<int>(Rgb(9, 8, 7)));
+  SavePicture(Picture(20, 10), folder() / "map.bmp");
+  platform.QueueAnswer((folder() / "map.bmp").string());
+  window.Command5.Press();
+  EXPECT_EQ(foreground.ScaleWidth(), 20);
+  EXPECT_EQ(app.imaging->texture.Picture5.height, 14);
   platform.QueueAnswer((folder() / "missing.bmp").string());
   window.Command5.Press();
   EXPECT_EQ(app.faults.TakeAll().size(), 1U);
-  EXPECT_EQ(background.PixelWidth(), 970);
+  EXPECT_EQ(background.PixelWidth(), 20);
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ ImagingWindows::ImagingWindows(App& app)
   texture.askKernel = [this](cImageProcessDIB& process) { return frmCustomFilter.Ask(process); };
   texture.askNoise = [this] { return frmAddNoise.Ask(); };
   app.links.foreground = [this]() -> PictureBox& { return texture.Picture1; };
-  app.links.background = [this]() -> PictureBox& { return texture.Picture5; };
+  app.links.takeImages = [this](const Picture& picture) { texture.TakeImages(picture); };
 }
 
 }  // namespace pelorium

@@ -163,6 +163,10 @@ void Texture::Open(Image image, const Picture& picture) {
   ShowImage(image);
 }
 
+void Texture::TakeImages(const Picture& picture) {
+  for (const Image image : {Image::Foreground, Image::Background}) Replace(image, picture);
+}
+
 cDIBSection& Texture::Source() {
   if (source_.Width() > 0) return source_;
   source_.Create(kWidth, kHeight);
@@ -210,6 +214,7 @@ void Texture::PointsAtRandom() {
   const MakerSettings settings = Settings();
   ShowImage(Image::Foreground);
   RandomPoints(Picture1.picture(), settings.brush, settings.amount, app_.random);
+  Picture5.picture().drawWidth = HScroll5.value();  // strokes of random width may have left another one
   Told(Image::Foreground);
 }
 
@@ -217,6 +222,7 @@ void Texture::CirclesAtRandom() {
   const MakerSettings settings = Settings();
   ShowImage(Image::Foreground);
   RandomCircles(Picture1.picture(), settings.brush, settings.amount, app_.random);
+  Picture5.picture().drawWidth = HScroll5.value();
   Told(Image::Foreground);
 }
 

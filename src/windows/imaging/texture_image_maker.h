@@ -53,6 +53,9 @@ class Texture : public ToolWindow {
   // leaves them the Foreground.
   void Open(Image image, const Picture& picture);
 
+  // A picture for both, which the filters do not learn of.
+  void TakeImages(const Picture& picture);
+
   // The filters' source takes the Foreground as it is now, at its size.
   void LoadSource();
   // The source as it is; until it is first loaded it is as white as the Foreground was at the start.

@@ -129,7 +129,8 @@ void Texture::ShowWindow(const char* name) {
 void Texture::PressInFileWindow(const char* command) {
   Window* files = app_.FindWindow("Form15");
   if (files == nullptr) return;
-  if (auto* folder = dynamic_cast<DirList*>(files->Find("Dir1"))) folder->SetFolder(app_.applicationPath);
+  if (auto* folders = dynamic_cast<DirList*>(files->Find("Dir1"))) folders->SetFolder(app_.applicationPath);
+  if (auto* names = dynamic_cast<FileList*>(files->Find("File1"))) names->SetFolder(app_.applicationPath);
   if (Control* button = files->Find(command)) button->Press({});
 }
 

@@ -201,12 +201,9 @@ void Material::Command5_Click() {
   const auto name = AskFileName(app_, {false, "Open", "images", "All Files (*.bmp;*.png)|*.bmp;*.png", ""});
   if (name.empty()) return;
   Picture opened(1, 1);
+  opened.backColour = app_.links.foreground().measures().backColour;  // under what is transparent
   LoadPicture(opened, FileNamed(app_, name));
-  for (PictureBox* box : {&app_.links.foreground(), &app_.links.background()}) {
-    box->picture().Resize(opened.PixelWidth(), opened.PixelHeight());
-    box->picture().SetPixels(opened.Pixels());
-    box->NotifyChanged();
-  }
+  app_.links.takeImages(opened);
   app_.notices.Give("opened " + name.filename().string(), NoticeKind::Result);
 }
 

@@ -11,6 +11,7 @@
 
 namespace pelorium {
 
+class Picture;
 class PictureBox;
 
 enum class Cap { Bottom, Top, Start, End };
@@ -41,7 +42,9 @@ struct RoomLinks {
   // A click while the view draws a mesh together: its next point, at X, Y of the model.
   std::function<void(double x, double y)> addMeshPoint;
   // imaging
-  std::function<PictureBox&()> foreground, background;  // of the image maker
+  std::function<PictureBox&()> foreground;  // of the image maker
+  // Both its images become the picture, with its size; which one shows stays.
+  std::function<void(const Picture& picture)> takeImages;
 
   // facetools
   std::function<void(int face)> chooseFace;
