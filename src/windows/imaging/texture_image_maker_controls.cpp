@@ -62,7 +62,8 @@ constexpr const char *kMoves = "factor on the places of the gray transfer",
                      *kAdds = "added to the channel in transfers",
                      *kNoiseTip = "random amount up to this, added to the channel in transfers";
 constexpr std::pair<int, int> kImageSizes[] = {{512, 512}, {1024, 1024}, {2048, 2048}, {970, 670}};
-constexpr double kBlurUnit = 1440;  // of the bar, a factor of 1
+constexpr double kBlurUnit = 1440;    // of the bar, a factor of 1
+constexpr double kMostMarks = 32767;  // whatever a program writes into the box
 
 constexpr const char* kNoAction = "has no action";
 
@@ -83,7 +84,7 @@ std::span<const Texture::BarEntry> Texture::BarEntries() {
        [](S& s, B b) { s.brush.patchSize = b.Number(); }},
       {kAlways,
        {"HScroll24", "Text1", {2, 400, 100}, "Amnt", "marks of a patch"},
-       [](S& s, B b) { s.brush.patchAmount = b.Number(); }},
+       [](S& s, B b) { s.brush.patchAmount = std::min(b.Number(), kMostMarks); }},
 
       {kValues,
        {"HScroll13", "Text19", {0, 255, 0}, "Val Range", "lowest gray level that is stamped"},
