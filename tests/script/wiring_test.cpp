@@ -228,21 +228,23 @@ class DoingsOf {
     if (!list.items().empty()) Do(UserAction::Drag).value = static_cast<double>(list.items().size() - 1);
   }
 
-  // Down, two moves, up, by both sides of the mouse.
+  // Down, two moves, up, by both sides of the mouse; after each a move that no button holds.
   void Strokes(const PictureBox& box) {
     const Picture& picture = box.measures();
     for (const MouseButton button : {MouseButton::Left, MouseButton::Right}) {
       if (!box.onMouseDown && !box.onMouseMove && !box.onMouseUp) break;
       doings_.push_back({});
-      const auto at = [&](UserAction action, double across, double down) {
+      const auto at = [&](UserAction action, double across, double down, MouseButton held) {
         UserEvent event = Event(action);
         event.x = picture.ToUserX(static_cast<int>(across * picture.PixelWidth()));
         event.y = picture.ToUserY(static_cast<int>(down * picture.PixelHeight()));
-        event.click.button = button;
+        event.click.button = held;
         doings_.back().events.push_back(event);
       };
-      at(UserAction::MouseDown, .4, .5), at(UserAction::MouseMove, .45, .55);
-      at(UserAction::MouseMove, .6, .7), at(UserAction::MouseUp, .6, .7);
+      at(UserAction::MouseDown, .4, .5, button), at(UserAction::MouseMove, .45, .55, button);
+      at(UserAction::MouseMove, .6, .7, button), at(UserAction::MouseUp, .6, .7, button);
+      doings_.push_back({{}, Doing::Telling::IfAnything});
+      at(UserAction::MouseMove, .5, .6, MouseButton::None);
     }
     if (!box.onResize) return;
     UserEvent& resize = Do(UserAction::Resize);
@@ -325,14 +327,28 @@ std::string ClosingOf(const Home& home, ProgramWatch& watch, const std::string& 
   return lines.replace(lines.find("set"), 0, "close: ");
 }
 
+// How far the ends of the bars and the ways beside their sliders go: a line for each pair of steps.
+std::string StepsOfBars(const Window& window) {
+  std::map<std::pair<int, int>, std::string> bars;
+  for (const Control* control : window.controls()) {
+    if (control->kind() != ControlKind::ScrollBar) continue;
+    const auto& bar = static_cast<const ScrollBar&>(*control);
+    bars[{bar.smallChange, bar.largeChange}] += " " + bar.name();
+  }
+  std::string lines;
+  for (const auto& [steps, names] : bars)
+    lines += std::to_string(steps.first) + " " + std::to_string(steps.second) + ":" + names + "\n";
+  return lines.empty() ? lines : "\n# Steps of the bars\n" + lines;
+}
+
 class Wiring : public testing::TestWithParam<std::string> {};
 
 TEST_P(Wiring, OfEveryControl) {
   const Home home;
   const Prepared still(home);
   const Window& window = *still.app.FindWindow(GetParam());
-  std::string text = "# Controls\n" + ControlLines(window) + "\n# Layout\n" + LayoutLines(window.layout()) +
-                     "\n# What one event on each control changes\n";
+  std::string text = "# Controls\n" + ControlLines(window) + StepsOfBars(window) + "\n# Layout\n" +
+                     LayoutLines(window.layout()) + "\n# What one event on each control changes\n";
   const std::string folder = still.app.applicationPath.string();
   for (std::size_t at; (at = text.find(folder)) != std::string::npos;) text.replace(at, folder.size(), "~");
   ProgramWatch watch;

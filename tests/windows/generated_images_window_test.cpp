@@ -85,6 +85,13 @@ TEST_F(GeneratedImages, NumberedPicturesComeBack) {
   EXPECT_EQ(Image()[968 * 5 + 5], Rgb(255, 255, 255));
 }
 
+TEST_F(GeneratedImages, AWallpaperThatCannotBeSavedIsTold) {
+  std::filesystem::create_directories(folder() / "Plasma.bmp" / "in the way");
+  Press("texture", "wallpaperme");
+  EXPECT_EQ(platform.TakeMessages(), std::vector<std::string>{"Wallpaper not set."});
+  EXPECT_EQ(app.faults.TakeAll().size(), 1U);
+}
+
 TEST_F(GeneratedImages, FilesGoToTheImageThatIsMeant) {
   Picture file(20, 10);
   file.backColour = Rgb(1, 2, 3);

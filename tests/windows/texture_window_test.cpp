@@ -55,6 +55,15 @@ TEST_F(TextureWindow, FiltersSeeWhatWasDrawnByHandOrFixed) {
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 
+TEST_F(TextureWindow, TheRingIsSeenOnEveryGround) {
+  for (const auto& [ground, ring] : {std::pair{127, kWhite}, {128, Rgb(0, 0, 0)}}) {
+    window.Picture1.picture().backColour = Rgb(ground, ground, ground);
+    window.Picture1.picture().Clear();
+    Point("Picture1", UserAction::MouseMove, 50, 60, MouseButton::None);
+    EXPECT_EQ(window.Picture1.overlay().at(0).colour, ring) << ground;
+  }
+}
+
 TEST_F(TextureWindow, HoveringPicksNothingAndTheRightButtonPicks) {
   window.Picture1.picture().backColour = Rgb(10, 20, 30);
   window.Picture1.picture().Clear();
