@@ -4,14 +4,9 @@
 #include <cstring>
 #include <filesystem>
 
-#include "imaging/corner_plasma.h"
-#include "imaging/gradient.h"
-#include "imaging/gray_levels.h"
 #include "imaging/image_effects.h"
 #include "imaging/image_process.h"
-#include "imaging/perlin_noise.h"
 #include "imaging/picture_marks.h"
-#include "imaging/tiling_plasma.h"
 #include "platform/picture_files.h"
 
 namespace pelorium {
@@ -137,81 +132,6 @@ void ImageBrushMove(benchmark::State& state) {
   }
 }
 BENCHMARK(ImageBrushMove)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
-
-// Width, height, octaves, units from the middle to the edges.
-void ImagePerlin(benchmark::State& state) {
-  cDIBSection surface;
-  surface.Create(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
-  PerlinSettings settings;
-  settings.octaveLimit = 1 << (state.range(2) - 1);
-  settings.extent = static_cast<double>(state.range(3));
-  RandomSeries random;
-  for (auto _ : state) {
-    RenderPerlin(surface, settings, random);
-    benchmark::DoNotOptimize(surface.DIBSectionBitsPtr());
-  }
-}
-BENCHMARK(ImagePerlin)
-    ->Args({1024, 1024, 6, 1})
-    ->Args({1024, 1024, 6, 16})
-    ->Args({970, 670, 1, 1})
-    ->Unit(benchmark::kMillisecond);
-
-// The same pictures without the short cuts: noise asked for at each place.
-void ImagePerlinPlain(benchmark::State& state) {
-  const cPerlin3D noise;
-  const double extent = static_cast<double>(state.range(0)), step = extent / 512;
-  for (auto _ : state) {
-    double sum = 0;
-    for (double x = -extent; x < extent; x += step) {
-      for (double y = -extent; y < extent; y += step) {
-        for (int freq = 1; freq <= 32; freq *= 2) sum += noise.Noise(x * freq, y * freq, 0.03 * freq) / freq;
-      }
-    }
-    benchmark::DoNotOptimize(sum);
-  }
-}
-BENCHMARK(ImagePerlinPlain)->Arg(1)->Arg(16)->Unit(benchmark::kMillisecond);
-
-void ImageTilingPlasma(benchmark::State& state) {
-  Picture picture(970, 670);
-  RandomSeries random;
-  for (auto _ : state) PaintTilingPlasma(picture, 100, random);
-}
-BENCHMARK(ImageTilingPlasma)->Unit(benchmark::kMillisecond);
-
-// The argument: a draw for each channel.
-void ImageCornerPlasma(benchmark::State& state) {
-  Picture picture(968, 670);
-  RandomSeries random;
-  CornerPlasma plasma;
-  plasma.width = 968;
-  plasma.height = 670;
-  plasma.movesAlike = state.range(0) == 0;
-  for (auto _ : state) PaintCornerPlasma(picture, plasma, random);
-}
-BENCHMARK(ImageCornerPlasma)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
-
-void ImageGrayBlur(benchmark::State& state) {
-  Picture picture(968, 670);
-  FillAcross(picture, {});
-  for (auto _ : state) BlurGrays(picture, {.spacing = 1});
-}
-BENCHMARK(ImageGrayBlur)->Unit(benchmark::kMillisecond);
-
-void ImageGrayBrush(benchmark::State& state) {
-  Picture picture(968, 670);
-  RandomSeries random;
-  GrayBrush brush;
-  brush.size = 200;
-  double x = 100;
-  for (auto _ : state) {
-    PaintGrays(picture, brush, {x, 300, true}, random);
-    x = x < 800 ? x + 1 : 100;
-    benchmark::DoNotOptimize(picture.Pixels().data());
-  }
-}
-BENCHMARK(ImageGrayBrush)->Unit(benchmark::kMicrosecond);
 
 void ImageFile(benchmark::State& state) {
   Picture picture = NoiseImage();

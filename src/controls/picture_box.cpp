@@ -18,6 +18,11 @@ void PictureBox::DrawStale() {
   if (std::exchange(isStale_, false)) onDraw(picture_);
 }
 
+void PictureBox::ShowWhileHidden(PictureBox& other) {
+  standIn_ = &other;
+  other.standsFor_ = this;
+}
+
 void PictureBox::Fill(Colour colour) {
   picture().backColour = colour;
   picture().Clear();

@@ -54,6 +54,17 @@ class PictureBox : public Control {
   // The button of the last press that was not let go yet: what a move carries that tells of none.
   MouseButton heldButton = MouseButton::None;
 
+  // While this box is hidden the other one is seen in its place and at its size, and the window stays as it
+  // is.
+  void ShowWhileHidden(PictureBox& other);
+  bool hasStandIn() const { return standIn_ != nullptr; }
+  // The box whose picture is seen where this one stands.
+  const PictureBox& Seen() const { return visible() || standIn_ == nullptr ? *this : *standIn_; }
+  // The hidden box in whose place this one is seen; null while there is none.
+  PictureBox* SeenInPlaceOf() const {
+    return standsFor_ == nullptr || standsFor_->visible() ? nullptr : standsFor_;
+  }
+
   std::function<void(const MouseEvent&)> onMouseDown, onMouseMove, onMouseUp;
   std::function<void(const WheelEvent&)> onWheel;
 
@@ -73,6 +84,7 @@ class PictureBox : public Control {
 
   Picture picture_;
   bool isStale_ = false;
+  PictureBox *standIn_ = nullptr, *standsFor_ = nullptr;
 };
 
 }  // namespace pelorium

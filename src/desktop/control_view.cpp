@@ -76,7 +76,9 @@ class InputFilter : public QObject {
 
 }  // namespace
 
-void SyncCommon(ControlView& view, const Control& control) {
+void SyncCommon(ControlView& view, const Control& control) { SyncCommon(view, control, control.visible()); }
+
+void SyncCommon(ControlView& view, const Control& control, bool isShown) {
   QWidget& widget = *view.widget();
   const QString toolTip = ToQt(control.toolTip());
   for (QWidget* each : {&widget, static_cast<QWidget*>(view.before)}) {
@@ -86,7 +88,7 @@ void SyncCommon(ControlView& view, const Control& control) {
       each->setStatusTip(toolTip);
     }
     if (each->isEnabledTo(each->parentWidget()) != control.enabled()) each->setEnabled(control.enabled());
-    if (each->isHidden() == control.visible()) each->setVisible(control.visible());
+    if (each->isHidden() == isShown) each->setVisible(isShown);
   }
 }
 

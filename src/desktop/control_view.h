@@ -29,6 +29,7 @@ using ViewMap = std::unordered_map<const Control*, ControlView*>;
 
 // What all widgets show alike: whether there, whether enabled, the tool tip.
 void SyncCommon(ControlView& view, const Control& control);
+void SyncCommon(ControlView& view, const Control& control, bool isShown);  // whatever the control says
 
 // Names the widget after its control, and delivers the events that any control may have a handler for and its
 // widget does not tell: clicks on labels, boxes and frames, double clicks, keys.

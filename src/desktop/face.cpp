@@ -32,7 +32,10 @@ Face::Face(App& app, Dispatcher& dispatcher)
     : app_(app), dispatcher_(dispatcher), menus_(dispatcher), builder_(dispatcher, views_, menus_) {
   app_.host.listener = this;
   dispatcher_.onDelivered = [this] { Refresh(); };
-  dispatcher_.onDelivering = [this] { frame_->ForgetFault(); };
+  dispatcher_.onDelivering = [this] {
+    frame_->ForgetFault();
+    busyCursor_.Restart();
+  };
   Window& frameWindow = Needed(app, WindowRole::Frame);
   Window& splashWindow = Needed(app, WindowRole::Splash);
   frame_ = std::make_unique<MainWindow>(frameWindow, dispatcher_, menus_);
@@ -62,6 +65,9 @@ void Face::Begin() {
 void Face::ControlChanged(Control& control) {
   changedControls_.insert(&control);
   if (control.kind() == ControlKind::ProgressBar) ShowProgress(control);
+  if (control.kind() == ControlKind::PictureBox) {
+    if (PictureBox* hidden = static_cast<PictureBox&>(control).SeenInPlaceOf()) ShowProgress(*hidden);
+  }
   ScheduleRefresh();
 }
 
@@ -82,6 +88,7 @@ void Face::ScheduleRefresh() {
 
 void Face::Refresh() {
   isRefreshDue_ = false;
+  busyCursor_.Restart();
   RefreshControls();
   RefreshWindows();
   RefreshPictures();
@@ -120,6 +127,7 @@ void Face::ShowProgress(Control& control) {
   const auto now = std::chrono::steady_clock::now();
   if (found == views_.end() || now - lastProgress_ < kBetweenProgress) return;
   lastProgress_ = now;
+  busyCursor_.ShowIfLate();
   DrawNow(app_);
   found->second->Sync();
   found->second->widget()->repaint();

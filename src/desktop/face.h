@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "controls/window.h"
+#include "desktop/busy_cursor.h"
 #include "desktop/dispatcher.h"
 #include "desktop/layout_builder.h"
 #include "desktop/main_window.h"
@@ -18,8 +19,8 @@ namespace pelorium {
 
 class App;
 
-// Changes are noted while handlers run and shown when the event is over; only progress bars are repainted
-// before.
+// Changes are noted while handlers run and shown when the event is over; only progress bars, and pictures
+// that stand in for hidden ones, are repainted before.
 class Face : public ControlListener {
  public:
   Face(App& app, Dispatcher& dispatcher);
@@ -57,6 +58,7 @@ class Face : public ControlListener {
   std::unordered_set<Control*> changedControls_;
   std::vector<Window*> changedWindows_;  // in the order of their last change
   std::chrono::steady_clock::time_point lastProgress_;
+  BusyCursor busyCursor_;
   bool isRefreshDue_ = false;
 };
 

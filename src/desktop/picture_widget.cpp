@@ -63,7 +63,7 @@ PictureWidget::PictureWidget(PictureBox& box, Dispatcher& dispatcher, QWidget* p
 
 void PictureWidget::Sync() {
   FitToPicture();
-  SyncCommon(*this, box_);
+  SyncCommon(*this, box_, box_.visible() || box_.hasStandIn());
   update();
 }
 
@@ -78,7 +78,8 @@ void PictureWidget::FitToPicture() {
 
 void PictureWidget::ShowPresent() {
   if (!isVisible()) return;
-  if (box_.picture().Revision() == shownRevision_ && box_.overlay() == shownOverlay_) return;
+  const Picture& picture = box_.Seen().picture();
+  if (picture.Revision() == shownRevision_ && picture.overlay == shownOverlay_) return;
   FitToPicture();
   repaint();
 }
@@ -97,7 +98,7 @@ void PictureWidget::showEvent(QShowEvent* event) {
 }
 
 void PictureWidget::paintEvent(QPaintEvent*) {
-  const Picture& picture = box_.picture();
+  const Picture& picture = box_.Seen().picture();
   const int width = picture.PixelWidth(), height = picture.PixelHeight();
   const auto* pixels = reinterpret_cast<const uchar*>(picture.Pixels().data());
   const QImage image(pixels, width, height, width * 4, QImage::Format_RGBX8888);
@@ -110,9 +111,10 @@ void PictureWidget::paintEvent(QPaintEvent*) {
 }
 
 void PictureWidget::DrawOverlay(QPainter& painter) const {
-  for (const OverlayShape& shape : box_.overlay()) {
-    const Pixel from = box_.measures().ToPixel(shape.x0, shape.y0);
-    const Pixel to = box_.measures().ToPixel(shape.x1, shape.y1);
+  const Picture& picture = box_.Seen().measures();
+  for (const OverlayShape& shape : picture.overlay) {
+    const Pixel from = picture.ToPixel(shape.x0, shape.y0);
+    const Pixel to = picture.ToPixel(shape.x1, shape.y1);
     painter.setPen(ToQt(shape.colour));
     switch (shape.form) {
       case OverlayShape::Form::Line:

@@ -1,6 +1,7 @@
 // The desktop's queue: in which order inputs that wait and events within events reach the program, and what
 // the screen shows meanwhile.
 #include <QLineEdit>
+#include <QThread>
 
 #include "controls/buttons.h"
 #include "controls/picture_box.h"
@@ -138,6 +139,42 @@ TEST_F(FaceTest, ALineOverThePictureMovesWithoutItsPixels) {
   EXPECT_EQ(box.picture().Revision(), revision);
   EXPECT_NE(down.pixel(400, 225), across.pixel(400, 225));
   EXPECT_NE(down.pixel(525, 100), across.pixel(525, 100));
+}
+
+// The image behind the model is seen where the view stood while a run hides the view: at once, at the same
+// size, untold to the program. After a fifth of a second the cursor tells that it takes long.
+TEST_F(FaceTest, AHiddenViewShowsItsImage) {
+  auto& widget = Shown<QWidget>("Form36.Picture1");
+  auto& view = Controlled<PictureBox>("Form36", "Picture1");
+  auto& image = Controlled<PictureBox>("Form36", "Picture2");
+  const QRect place = widget.geometry();
+  const QPoint spot = widget.mapToGlobal(QPoint(300, 200));
+  const auto onScreen = [&spot] {
+    return QGuiApplication::primaryScreen()->grabWindow(0, spot.x(), spot.y(), 1, 1).toImage().pixel(0, 0);
+  };
+  QRgb during = 0;
+  Qt::CursorShape early = Qt::BlankCursor, late = Qt::BlankCursor;
+  view.onMouseDown = [&](const MouseEvent&) {
+    view.SetVisible(false);
+    image.Fill(Rgb(200, 10, 20));
+    during = onScreen();
+    early = QGuiApplication::overrideCursor() == nullptr ? Qt::ArrowCursor : Qt::BusyCursor;
+    QThread::msleep(250);
+    image.NotifyChanged();
+    late = QGuiApplication::overrideCursor() == nullptr ? Qt::ArrowCursor : Qt::BusyCursor;
+    view.SetVisible(true);
+  };
+  const QRgb before = onScreen();
+  NewJournalLines();
+  QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(40, 40));
+  Settle();
+  EXPECT_EQ(during, qRgb(200, 10, 20));
+  EXPECT_EQ(onScreen(), before);
+  EXPECT_EQ(widget.geometry(), place);
+  EXPECT_EQ(NewJournalLines().size(), 2U) << "the press and the letting go";
+  EXPECT_EQ(early, Qt::ArrowCursor);
+  EXPECT_EQ(late, Qt::BusyCursor);
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 }  // namespace

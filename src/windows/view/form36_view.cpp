@@ -62,6 +62,7 @@ Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mo
   Picture1.panUp = &VScroll1;
   Picture1.onKey = [this](char character) { Picture1_KeyPress(character); };
   Picture1.picture().SetScale(15, -15);
+  Picture1.ShowWhileHidden(Picture2);
   Picture2.picture().backColour = Rgb(0, 0, 0);
   Picture2.picture().Clear();
   noImage_ = Picture2.picture().Revision();
