@@ -15,7 +15,8 @@ void Halftone(EffectRun& run) {
   for (int x = 1; x <= width; x += 2) {
     const Colour* column = reader.Column(x);
     for (int y = 1; y <= height; y += 2) {
-      const int gray = MeanGray(run.lastSample = column[y]);
+      run.lastSample = column[y];
+      const int gray = MeanGray(column[y]);
       int band = gray < 32 ? 8 : 7;
       for (int limit = 64; limit <= 224; limit += 32) band -= gray > limit ? 1 : 0;
       run.background.drawWidth = band;

@@ -12,6 +12,7 @@ namespace pelorium {
 namespace {
 
 constexpr int kInvertWidth = 6;
+constexpr int kSprayWidth = 968, kSprayHeight = 670;  // of the view's image, whatever the picture's size
 
 constexpr Colour Gray(int level) { return Rgb(level, level, level); }
 int GrayOf(Colour colour) { return GrayLevel(static_cast<int>(colour)); }
@@ -78,7 +79,8 @@ void InvertGrays(Picture& picture, int spacing) {
   const PixelGrid grid = picture.Edit(), samples{before.data(), grid.width, grid.height};
   for (int y = 1; y <= grid.height; y += std::max(spacing, 1)) {
     for (int x = 1; x <= grid.width; x += std::max(spacing, 1)) {
-      RasteriseDot(grid, {x, y}, kInvertWidth, Gray(255 - GrayOf(samples, {x, y})));
+      picture.foreColour = Gray(255 - GrayOf(samples, {x, y}));
+      RasteriseDot(grid, {x, y}, kInvertWidth, picture.foreColour);
     }
   }
 }
@@ -88,8 +90,8 @@ void SprayGrays(Picture& picture, int gray, int dotSize, int amount, RandomSerie
   picture.drawWidth = dotSize;
   const PixelGrid grid = picture.Edit();
   for (int i = 0; i < amount; ++i) {
-    const int x = static_cast<int>(random.Next() * grid.width);
-    const int y = static_cast<int>(random.Next() * grid.height);
+    const int x = static_cast<int>(random.Next() * kSprayWidth);
+    const int y = static_cast<int>(random.Next() * kSprayHeight);
     RasteriseDot(grid, {x, y}, dotSize, Gray(gray));
   }
 }
@@ -100,7 +102,8 @@ void BlurGrays(Picture& picture, const GrayBlur& blur, const std::function<void(
   const Offsets offsets = Neighbours(blur);
   for (int y = 1; y <= grid.height; y += std::max(blur.spacing, 1)) {
     for (int x = 1; x <= grid.width; x += std::max(blur.spacing, 1)) {
-      RasteriseDot(grid, {x, y}, blur.dotSize, Gray(MeanAbout(grid, {x, y}, offsets)));
+      picture.foreColour = Gray(MeanAbout(grid, {x, y}, offsets));
+      RasteriseDot(grid, {x, y}, blur.dotSize, picture.foreColour);
     }
     if (onRow) onRow(y);
   }

@@ -15,7 +15,7 @@ namespace pelorium {
 // Each sample's negative as a dot six wide. The samples are those of the picture before the call.
 void InvertGrays(Picture& picture, int spacing);
 
-// `amount` dots at random places.
+// `amount` dots at random places of the view's image, 968 x 670; what falls outside the picture is lost.
 void SprayGrays(Picture& picture, int gray, int dotSize, int amount, RandomSeries& random);
 
 struct GrayBlur {

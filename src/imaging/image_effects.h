@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
 
 #include "base/random_series.h"
@@ -44,8 +45,8 @@ struct EffectRun {
   RandomSeries& random;
   std::function<void(int max)> onStart = {};  // the highest value of the progress
   std::function<void(int column)> onColumn =
-      {};                 // a column of samples is done; held to the maximum by the bar
-  Colour lastSample = 0;  // read last
+      {};  // a column of samples is done; held to the maximum by the bar
+  std::optional<Colour> lastSample = std::nullopt;  // read last; nothing when none was
 };
 
 struct ImageEffect {

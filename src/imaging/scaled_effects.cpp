@@ -13,9 +13,10 @@ void StampScaled(const EffectSettings& settings, bool hasBox, Stamper& stamper, 
   if (settings.shape == StampShape::Box && hasBox) stamper.Box(at, settings.pointSize + 1);
 }
 
-// `sample(colour)` sets the pen and gives the value that the range is asked about.
+// `sample(colour)` sets the pen and gives the value that the range is asked about; without `reads` it does
+// not look at the colour.
 template <typename Sample>
-void ScaledEffect(EffectRun& run, bool hasBox, Sample sample) {
+void ScaledEffect(EffectRun& run, bool hasBox, Sample sample, bool reads = true) {
   const EffectSettings& settings = run.settings;
   const double scale = settings.scale;
   const int width = run.foreground.PixelWidth(), height = run.foreground.PixelHeight();
@@ -27,7 +28,7 @@ void ScaledEffect(EffectRun& run, bool hasBox, Sample sample) {
   for (int x = 0; x <= width; x += StepOf(settings.stepX)) {
     const Colour* column = reader.Column(x);
     for (int y = 0; y <= height; y += StepOf(settings.stepY)) {
-      run.lastSample = column[y];
+      if (reads) run.lastSample = column[y];
       if (settings.range.Holds(sample(column[y]))) {
         StampScaled(settings, hasBox, stamper, ToPixel(x * scale, y * scale));
       }
@@ -98,7 +99,8 @@ void GrayTenLevels(EffectRun& run) {
 
 void Solid(EffectRun& run) {
   run.background.foreColour = run.settings.chosen;
-  ScaledEffect(run, true, [&](Colour) { return run.settings.addRed; });
+  ScaledEffect(
+      run, true, [&](Colour) { return run.settings.addRed; }, false);
 }
 
 }  // namespace pelorium

@@ -51,7 +51,11 @@ class Clouds {
     Divide(xm, ym, x2, y2);
     Divide(x1, ym, xm, y2);
     --depth_;
-    if (++returns_ % kReturnsBetweenTells == 0 && onProgress_) onProgress_(returns_ * kProgressAReturn);
+    if (++returns_ % kReturnsBetweenTells == 0) TellProgress();
+  }
+
+  void TellProgress() const {
+    if (onProgress_) onProgress_(returns_ * kProgressAReturn);
   }
 
  private:
@@ -97,6 +101,7 @@ void PaintTilingPlasma(Picture& picture, double level, RandomSeries& random,
   clouds.Divide(w, h, 2 * w, 2 * h);
   for (int y = h; y <= 2 * h; ++y) clouds.At(0, y) = clouds.At(2 * w, y);
   clouds.Divide(0, h, w, 2 * h);
+  clouds.TellProgress();
   for (int y = 0; y < std::min(grid.height, 2 * h + 1); ++y) {
     std::copy_n(clouds.Row(y), std::min(grid.width, 2 * w + 1), grid.At({0, y}));
   }

@@ -64,7 +64,8 @@ void Resized(EffectRun& run, double factor, int step, int copies) {
   for (int x = 0; x <= width; x += step) {
     const Colour* column = reader.Column(x);
     for (int y = 0; y <= height; y += step) {
-      const Colour c = run.lastSample = column[y];
+      const Colour c = column[y];
+      run.lastSample = c;
       Channels channels{{Red(c) + s.range.offset + s.addRed, Green(c) + s.range.offset + s.addGreen,
                          Blue(c) + s.range.offset + s.addBlue}};
       channels.Hold();

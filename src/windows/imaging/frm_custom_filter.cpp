@@ -136,6 +136,14 @@ void FrmCustomFilter::LoadNamed() {
   if (cboName.index() >= 0) ShowGrid(stored_[static_cast<std::size_t>(cboName.index())]);
 }
 
+// The chosen filter's number, that of the first one of this name, or the next new one.
+int FrmCustomFilter::NumberOf(const std::string& name) const {
+  if (cboName.index() >= 0) return cboName.index() + 1;
+  const auto same = std::find_if(stored_.begin(), stored_.end(),
+                                 [&name](const StoredFilter& filter) { return filter.name == name; });
+  return static_cast<int>(same - stored_.begin()) + 1;
+}
+
 void FrmCustomFilter::Accept() {
   const StoredFilter grid = Grid();
   switch (TakeGrid(ImageProcess, grid)) {
@@ -148,8 +156,7 @@ void FrmCustomFilter::Accept() {
       break;
   }
   cRegistry registry = Registry();
-  const int number = cboName.index() >= 0 ? cboName.index() : static_cast<int>(stored_.size());
-  SaveStoredFilter(registry, number + 1, grid);
+  SaveStoredFilter(registry, NumberOf(grid.name), grid);
   Cancelled = false;
   Hide();
 }

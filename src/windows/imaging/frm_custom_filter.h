@@ -43,6 +43,7 @@ class FrmCustomFilter : public ToolWindow {
   void SumUp();
   void BaseOn();
   void LoadNamed();
+  int NumberOf(const std::string& name) const;
   void Accept();
 
   std::vector<StoredFilter> stored_;

@@ -140,7 +140,10 @@ std::span<const Texture::BarEntry> Texture::BarEntries() {
       {kDiffuse,
        {"HScroll31", "Text23", {0, 255, 128}, "", "gray level whose distance is passed on"},
        [](S& s, B b) { s.effect.diffuseThreshold = b.value(); }},
-      {kPlasma, {"HScroll9", "Text8", {5, 400, 200}, "Plasma LVL", "how far plasma strays"}},
+      {kPlasma,
+       {"HScroll9", "Text8", {5, 400, 200}, "Plasma LVL", "how far plasma strays"},
+       nullptr,
+       Typing::IsTheValue},
 
       {kSquares,
        {"HScroll17", "Text10", {1, 30, 5}, "Size", "side of the blur, scrape and box squares, less 1"},

@@ -1,4 +1,5 @@
 // Images that the image maker makes of numbers.
+#include "base/numbers.h"
 #include "imaging/perlin_noise.h"
 #include "imaging/tiling_plasma.h"
 #include "windows/imaging/texture_image_maker.h"
@@ -15,7 +16,7 @@ void Texture::FillWithPlasma() {
   ShowImage(Image::Foreground);
   ProgressBar1.SetMax(Picture1.measures().PixelHeight());
   PaintTilingPlasma(Picture1.picture(), Bar("HScroll9").Number(), app_.random,
-                    [this](double done) { ProgressBar1.SetValue(static_cast<int>(done)); });
+                    [this](double done) { ProgressBar1.SetValue(ToInteger<int>(done)); });
   Told(Image::Foreground);
 }
 

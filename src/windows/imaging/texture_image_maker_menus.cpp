@@ -16,7 +16,7 @@ namespace {
 constexpr const char* kNoAction = "has no action";
 constexpr Colour kColourMask = 0xFFFFFF;
 
-// Of the effects that are named for a colour, the sample shows as the number behind its own.
+// Of the effects that are named for a colour, the swatch of the sample shows the number behind its own.
 bool ShowsNext(std::string_view item) { return item == "ci" || item == "yel" || item == "blk"; }
 
 }  // namespace
@@ -138,16 +138,14 @@ void Texture::RunEffect(const ImageEffect& effect) {
   const EffectSettings settings = Settings().effect;
   ShowImage(Image::Background);
   EffectRun run{settings, Picture1.picture(), Picture5.picture(), levelDivisor_, app_.random};
-  run.lastSample = Picture3.picture().backColour;
   run.onStart = [this](int max) {
     ProgressBar1.SetMax(max);
     ProgressBar1.SetValue(0);
   };
   run.onColumn = [this](int column) { ProgressBar1.SetValue(column); };
-  Trapped(app_.faults, "texture." + std::string(effect.item), [&] {
-    effect.run(run);
-    ShowColour(ShowsNext(effect.item) ? (run.lastSample + 1) & kColourMask : run.lastSample);
-  });
+  Trapped(app_.faults, "texture." + std::string(effect.item), [&] { effect.run(run); });
+  if (run.lastSample) ShowColour(*run.lastSample);
+  if (run.lastSample && ShowsNext(effect.item)) Picture3.Fill((*run.lastSample + 1) & kColourMask);
   Told(Image::Foreground);
   Told(Image::Background);
 }
