@@ -42,7 +42,8 @@ void FrmCustomFilter::MakeCells() {
                                                  isMiddle ? "1" : "0", "factor of the pixel at this place"));
     TextBox& box = *txtValue.back();
     box.onKeyUp = [this, &box] { KeepToDigits(box); };
-    box.onChange = [this] { SumUp(); };
+    box.onChange = [this, &box] { CellChanged(box); };
+    CellChanged(box);
   }
 }
 
@@ -116,6 +117,12 @@ void FrmCustomFilter::KeepToDigits(TextBox& box) {
   box.SetText(kept);
 }
 
+// Cells that take part stand out from the others.
+void FrmCustomFilter::CellChanged(TextBox& box) {
+  box.SetGround(box.Number() != 0 ? TextBox::Ground::Field : TextBox::Ground::Button);
+  SumUp();
+}
+
 void FrmCustomFilter::SumUp() {
   if (!chkAuto.value()) return;
   double sum = 0;
@@ -136,6 +143,14 @@ void FrmCustomFilter::LoadNamed() {
   if (cboName.index() >= 0) ShowGrid(stored_[static_cast<std::size_t>(cboName.index())]);
 }
 
+// The listed item that is chosen, or that has the name that still stands from the last time, or a new one.
+int FrmCustomFilter::PlaceOf(const std::string& name) const {
+  if (cboName.index() >= 0) return cboName.index();
+  const auto found = std::find_if(stored_.begin(), stored_.end(),
+                                  [&name](const StoredFilter& filter) { return filter.name == name; });
+  return static_cast<int>(found - stored_.begin());
+}
+
 void FrmCustomFilter::Accept() {
   const StoredFilter grid = Grid();
   switch (TakeGrid(ImageProcess, grid)) {
@@ -148,8 +163,7 @@ void FrmCustomFilter::Accept() {
       break;
   }
   cRegistry registry = Registry();
-  const int number = cboName.index() >= 0 ? cboName.index() : static_cast<int>(stored_.size());
-  SaveStoredFilter(registry, number + 1, grid);
+  SaveStoredFilter(registry, PlaceOf(grid.name) + 1, grid);
   Cancelled = false;
   Hide();
 }

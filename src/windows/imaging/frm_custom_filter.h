@@ -39,10 +39,11 @@ class FrmCustomFilter : public ToolWindow {
   StoredFilter Grid() const;
   void ShowGrid(const StoredFilter& grid);
   void KeepToDigits(TextBox& box);
-  void CellChanged();
+  void CellChanged(TextBox& box);
   void SumUp();
   void BaseOn();
   void LoadNamed();
+  int PlaceOf(const std::string& name) const;
   void Accept();
 
   std::vector<StoredFilter> stored_;
