@@ -77,14 +77,17 @@ std::size_t FileSource::Read(char* bytes, std::size_t count) {
 std::string ReadFile(const std::filesystem::path& path, std::size_t most) {
   FileSource file(path);
   std::string bytes;
-  constexpr std::size_t kChunk = 1 << 16;
+  constexpr std::size_t kChunk = 1 << 16, kMostAtOnce = 1 << 27;
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(path, error);  // of a pipe there is none
+  if (!error) bytes.reserve(std::min<std::uintmax_t>({size, most, kMostAtOnce}));
   std::size_t wanted = kChunk, got = kChunk;
   while (got == wanted && bytes.size() < most) {
-    const std::size_t size = bytes.size();
-    wanted = std::min(kChunk, most - size);
-    bytes.resize(size + wanted);
-    got = file.Read(bytes.data() + size, wanted);
-    bytes.resize(size + got);
+    const std::size_t start = bytes.size();
+    wanted = std::min(kChunk, most - start);
+    bytes.resize(start + wanted);
+    got = file.Read(bytes.data() + start, wanted);
+    bytes.resize(start + got);
   }
   return bytes;
 }

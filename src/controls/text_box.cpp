@@ -38,6 +38,10 @@ void TextBox::FinishTyping() {
   NotifyChanged();
 }
 
+void TextBox::SetGround(Ground ground) {
+  if (std::exchange(ground_, ground) != ground) NotifyChanged();
+}
+
 Label::Label(Window& owner, std::string name, std::string caption, std::string toolTip)
     : Control(owner, ControlKind::Label, std::move(name), std::move(caption), std::move(toolTip)) {}
 

@@ -32,6 +32,11 @@ class TextBox : public Control {
   // The box lost the focus, or another control had an event.
   void FinishTyping();
 
+  // The colour behind the text: of fields, or of buttons where the text counts for nothing.
+  enum class Ground { Field, Button };
+  Ground ground() const { return ground_; }
+  void SetGround(Ground ground);
+
   PropertyValue Value() const override { return text_; }
   void SetOwnValue(const PropertyValue& value) override { SetText(AsText(value)); }
 
@@ -41,6 +46,7 @@ class TextBox : public Control {
  private:
   std::string text_;
   bool isTyped_ = false;
+  Ground ground_ = Ground::Field;
   std::optional<std::string> instead_;  // shown when the typing is over
 };
 

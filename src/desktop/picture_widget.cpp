@@ -79,9 +79,22 @@ void PictureWidget::FitToPicture() {
 void PictureWidget::ShowPresent() {
   if (!isVisible()) return;
   const Picture& picture = box_.Seen().picture();
-  if (picture.Revision() == shownRevision_ && picture.overlay == shownOverlay_) return;
+  const bool isShown = picture.Revision() == shownRevision_;
+  if (isShown && picture.overlay == shownOverlay_) return;
   FitToPicture();
-  repaint();
+  isShown ? repaint(ReachOf(shownOverlay_).united(ReachOf(picture.overlay))) : repaint();
+}
+
+// What the shapes touch, with the width of their lines.
+QRect PictureWidget::ReachOf(const std::vector<OverlayShape>& shapes) const {
+  const Picture& measures = box_.Seen().measures();
+  QRect reach;
+  for (const OverlayShape& shape : shapes) {
+    const Pixel from = measures.ToPixel(shape.x0, shape.y0);
+    const Pixel to = measures.ToPixel(shape.x1, shape.y1);
+    reach |= QRect(QPoint(from.x, from.y), QPoint(to.x, to.y)).normalized().adjusted(-2, -2, 2, 2);
+  }
+  return reach;
 }
 
 // A picture that follows its window asks for its own size once; from then on it takes what it gets, so that

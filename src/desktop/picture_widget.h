@@ -24,7 +24,8 @@ class PictureWidget : public QWidget, public ControlView {
 
   QWidget* widget() override { return this; }
   void Sync() override;
-  // Repaints at once if the picture or its overlay is not the one on the screen.
+  // Repaints at once if the picture or its overlay is not the one on the screen: all of it, or of shapes that
+  // moved their old and their new place.
   void ShowPresent();
 
   QSize sizeHint() const override;
@@ -65,6 +66,7 @@ class PictureWidget : public QWidget, public ControlView {
   void BeginPan(QPoint pixel);
   void Pan(QPoint pixel);
   void DrawOverlay(QPainter& painter) const;
+  QRect ReachOf(const std::vector<OverlayShape>& shapes) const;
   void FitToPicture();
 
   PictureBox& box_;

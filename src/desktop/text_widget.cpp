@@ -1,6 +1,7 @@
 // A text box on the screen.
 #include "desktop/text_widget.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -40,7 +41,17 @@ void TextWidget::Sync() {
     setText(shown);
     setCursorPosition(hasFocus() ? cursor : 0);
   }
+  ShowGround();
   SyncCommon(*this, box_);
+}
+
+void TextWidget::ShowGround() {
+  const bool isField = box_.ground() == TextBox::Ground::Field;
+  const QBrush ground = QApplication::palette().brush(isField ? QPalette::Base : QPalette::Button);
+  QPalette own = palette();
+  if (own.brush(QPalette::Base) == ground) return;
+  own.setBrush(QPalette::Base, ground);
+  setPalette(own);
 }
 
 QSize TextWidget::sizeHint() const {

@@ -26,6 +26,7 @@ class TextWidget : public QLineEdit, public ControlView, private PendingInput {
 
  private:
   UserEvent TakeEvent() override;
+  void ShowGround();
   void OnTyped();
   void DeliverTyped();
 

@@ -118,6 +118,15 @@ void Picture::SetPixels(const std::vector<std::uint32_t>& pixels) {
   ++revision_;
 }
 
+void Picture::TakePixels(int width, int height, std::vector<std::uint32_t> pixels) {
+  Clear();
+  cleared_ = false;
+  width_ = std::clamp(width, 1, kMaxSide);
+  height_ = std::clamp(height, 1, kMaxSide);
+  pixels_ = std::move(pixels);
+  pixels_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
+}
+
 PixelGrid Picture::Edit() {
   Rasterise();
   ++revision_;

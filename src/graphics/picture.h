@@ -103,8 +103,12 @@ class Picture {
   const std::vector<std::uint32_t>& Pixels() const;
   void SetPixels(const std::vector<std::uint32_t>& pixels);
 
-  // The pixels to read and write in place, for painting that reads what it has just written. Good until the next
-  // other call of the picture that changes it.
+  // Pixels that were made elsewhere, width times height of them, instead of all that was there; the scale
+  // stays.
+  void TakePixels(int width, int height, std::vector<std::uint32_t> pixels);
+
+  // The pixels to read and write in place, for painting that reads what it has just written. Good until the
+  // next other call of the picture that changes it.
   PixelGrid Edit();
 
   // Counts the changes, so that a screen knows whether it shows the present picture.

@@ -3,6 +3,7 @@
 #include "imaging/convolution.h"
 
 #include <array>
+#include <bit>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -36,82 +37,104 @@ std::vector<Cell> CellsOf(const FilterKernel& kernel) {
 // which saves the spreading of bytes to 16 bits.
 using Pairs = std::uint16_t __attribute__((vector_size(16)));
 using Shorts = std::int16_t __attribute__((vector_size(16)));
-using Ints = std::int32_t __attribute__((vector_size(16)));
-using Reals = float __attribute__((vector_size(16)));
 constexpr int kPairsBytes = 16, kBlockBytes = 2 * kPairsBytes;
 
-// A neighbour of the first byte of a row's part, and its weight.
+// A neighbour of the first byte of a row's part, and its weight in every lane.
 struct Neighbour {
   const std::uint8_t* bytes;
-  std::uint16_t value;
+  Pairs value;
 };
 
-// Four whole numbers of 0..32640, two to the lane, divided. Half a unit more and the product with the
-// reciprocal falls on the right side of every whole number: the sums have 15 bits, a float has 24.
-inline Ints Quotients(Ints sums, float reciprocal) {
-  return __builtin_convertvector((__builtin_convertvector(sums, Reals) + 0.5F) * reciprocal, Ints);
-}
+// Divides whole numbers below 2^15 by one of 1..2^15: the upper half of the product with 2^(16 + shift) /
+// divisor, rounded up to a number of 16 bits, shifted. What that adds stays below the next quotient, since
+// the rounding is less than the divisor, which is at most 2^(shift + 1), and the number less than 2^15.
+struct Division {
+  explicit Division(int number)
+      : divisor(number),
+        shift(std::max(static_cast<int>(std::bit_width(static_cast<unsigned>(number - 1))) - 1, 0)),
+        multiplier(static_cast<std::uint16_t>(((1 << (16 + shift)) + number - 1) / number)) {}
+
+  Pairs operator()(Pairs numbers) const {
+    if (divisor == 1) return numbers;
+    Pairs quotients = {};
+    for (int i = 0; i < kPairsBytes / 2; ++i) {  // one instruction
+      quotients[i] = static_cast<std::uint16_t>((std::uint32_t{numbers[i]} * multiplier) >> 16);
+    }
+    return quotients >> shift;
+  }
+
+  int divisor, shift;
+  std::uint16_t multiplier;
+};
 
 // The quotients towards zero, held in 0..255.
-inline Pairs Levels(Pairs wrapped, float reciprocal) {
-  auto sums = (Shorts)wrapped;
-  sums = sums > 0 ? sums : Shorts{};
-  if (reciprocal != 1) {
-    const auto lanes = (Ints)sums;
-    const Ints quotients = Quotients(lanes & 0xFFFF, reciprocal) | Quotients(lanes >> 16, reciprocal) << 16;
-    sums = (Shorts)quotients;
-  }
-  const Shorts highest = Shorts{} + 255, held = sums < highest ? sums : highest;
-  return (Pairs)held;
+inline Pairs Levels(Pairs wrapped, const Division& division) {
+  const auto sums = (Shorts)wrapped, none = Shorts{}, highest = none + 255;
+  const auto quotients = (Shorts)division((Pairs)(sums > none ? sums : none));
+  return (Pairs)(quotients < highest ? quotients : highest);
+}
+
+// Both bytes of a pair weighed at once, and the upper one alone: the lower sums are the difference.
+inline Pairs PairLevels(Pairs both, Pairs high, const Division& division) {
+  return Levels(both - (high << 8), division) | Levels(high, division) << 8;
 }
 
 // A block of a row: the sums stay in the processor from the first neighbour to the quotients.
-void ConvolveBlock(const std::vector<Neighbour>& neighbours, int at, float reciprocal, std::uint8_t* to) {
-  Pairs low0 = {}, high0 = {}, low1 = {}, high1 = {};
+void ConvolveBlock(const std::vector<Neighbour>& neighbours, int at, const Division& division,
+                   std::uint8_t* to) {
+  Pairs both0 = {}, high0 = {}, both1 = {}, high1 = {};
   for (const Neighbour& neighbour : neighbours) {
-    Pairs pairs[2];
-    std::memcpy(pairs, neighbour.bytes + at, sizeof pairs);
-    low0 += (pairs[0] & 255) * neighbour.value;
-    high0 += (pairs[0] >> 8) * neighbour.value;
-    low1 += (pairs[1] & 255) * neighbour.value;
-    high1 += (pairs[1] >> 8) * neighbour.value;
+    Pairs pairs0, pairs1;
+    std::memcpy(&pairs0, neighbour.bytes + at, sizeof pairs0);
+    std::memcpy(&pairs1, neighbour.bytes + at + kPairsBytes, sizeof pairs1);
+    both0 += pairs0 * neighbour.value;
+    high0 += (pairs0 >> 8) * neighbour.value;
+    both1 += pairs1 * neighbour.value;
+    high1 += (pairs1 >> 8) * neighbour.value;
   }
-  const Pairs block[] = {Levels(low0, reciprocal) | Levels(high0, reciprocal) << 8,
-                         Levels(low1, reciprocal) | Levels(high1, reciprocal) << 8};
+  const Pairs block[] = {PairLevels(both0, high0, division), PairLevels(both1, high1, division)};
   static_assert(sizeof block == kBlockBytes);
   std::memcpy(to + at, block, sizeof block);
 }
 
 // What is left over behind the last whole block is worked out in one that overlaps it.
-void ConvolveRow(const std::vector<Neighbour>& neighbours, int count, int divisor, std::uint8_t* to) {
-  const float reciprocal = 1 / static_cast<float>(divisor);
+void ConvolveRow(const std::vector<Neighbour>& neighbours, int count, const Division& division,
+                 std::uint8_t* to) {
   int k = 0;
-  for (; k + kBlockBytes <= count; k += kBlockBytes) ConvolveBlock(neighbours, k, reciprocal, to);
-  if (k < count && count >= kBlockBytes)
-    return ConvolveBlock(neighbours, count - kBlockBytes, reciprocal, to);
+  for (; k + kBlockBytes <= count; k += kBlockBytes) ConvolveBlock(neighbours, k, division, to);
+  if (k < count && count >= kBlockBytes) return ConvolveBlock(neighbours, count - kBlockBytes, division, to);
   for (; k < count; ++k) {
     int sum = 0;
     for (const Neighbour& neighbour : neighbours)
-      sum += static_cast<std::int16_t>(neighbour.value) * neighbour.bytes[k];
-    to[k] = static_cast<std::uint8_t>(std::clamp(sum / divisor, 0, 255));
+      sum += static_cast<std::int16_t>(neighbour.value[0]) * neighbour.bytes[k];
+    to[k] = static_cast<std::uint8_t>(std::clamp(sum / division.divisor, 0, 255));
   }
 }
 
-// A negative weight turns the signs of both sides round; one beyond every sum makes all quotients 0.
+// A negative weight turns the signs of both sides round; one beyond every sum makes all quotients 0. A row is
+// written when it is whole: both surfaces often lie alike in their pages of memory, and the processor takes
+// reads that stand so to a write right before them for reads of it.
 void ConvolveShort(const cDIBSection& source, cDIBSection& working, const FilterKernel& kernel,
                    const ImageEvents& events) {
   const std::vector<Cell> cells = CellsOf(kernel);
-  const std::int64_t divisor = std::min<std::int64_t>(std::llabs(kernel.weight), kLargestShortSum + 1);
+  const Division division(
+      static_cast<int>(std::clamp<std::int64_t>(std::llabs(kernel.weight), 1, kLargestShortSum + 1)));
   const int sign = kernel.weight < 0 ? -1 : 1;
-  std::vector<Neighbour> neighbours(cells.size());
+  std::array<std::uint8_t, kStripBytes> row;
+  std::vector<Neighbour> neighbours;
+  for (const Cell& cell : cells) {
+    neighbours.push_back({nullptr, Pairs{} + static_cast<std::uint16_t>(sign * cell.value)});
+  }
   ForStrips(events, source.Width(), kernel.half(), [&](int first, int end) {
     for (int y = kernel.half(); y < source.Height() - kernel.half(); ++y) {
+      FetchRowAhead(source, y + kernel.half(), first);
+      FetchRowAhead(working, y, first);
       for (std::size_t c = 0; c < cells.size(); ++c) {
-        neighbours[c] = {source.Row(y + cells[c].j) + (first + cells[c].i) * kBytes,
-                         static_cast<std::uint16_t>(sign * cells[c].value)};
+        neighbours[c].bytes = source.Row(y + cells[c].j) + (first + cells[c].i) * kBytes;
       }
-      ConvolveRow(neighbours, (end - first) * kBytes, static_cast<int>(divisor),
-                  working.Row(y) + first * kBytes);
+      const int count = (end - first) * kBytes;
+      ConvolveRow(neighbours, count, division, row.data());
+      std::copy_n(row.data(), count, working.Row(y) + first * kBytes);
     }
   });
 }

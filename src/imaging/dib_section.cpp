@@ -11,6 +11,7 @@
 
 #include "base/numbers.h"
 #include "base/random_series.h"
+#include "graphics/bgr_rows.h"
 #include "imaging/numbered_fault.h"
 
 namespace pelorium {
@@ -134,12 +135,7 @@ void cDIBSection::LoadPictureBlt(const Picture& source, int left, int top, int w
   for (int y = 0; y < part.height && part.width > 0; ++y) {
     const std::uint32_t* from =
         pixels + static_cast<std::ptrdiff_t>(part.fromY + y) * source.PixelWidth() + part.fromX;
-    std::uint8_t* to = Row(biHeight_ - 1 - part.toY - y) + part.toX * kBytesPerPixel;
-    for (int x = 0; x < part.width; ++x, to += kBytesPerPixel) {
-      to[0] = static_cast<std::uint8_t>(from[x] >> 16);
-      to[1] = static_cast<std::uint8_t>(from[x] >> 8);
-      to[2] = static_cast<std::uint8_t>(from[x]);
-    }
+    PixelsToBgr(from, part.width, Row(biHeight_ - 1 - part.toY - y) + part.toX * kBytesPerPixel);
   }
 }
 
@@ -161,8 +157,7 @@ void cDIBSection::PaintPicture(Picture& target, int left, int top, int width, in
                      width < 0 ? biWidth_ : width, height < 0 ? biHeight_ : height);
   for (int y = 0; y < part.height && part.width > 0; ++y) {
     const std::uint8_t* from = Row(biHeight_ - 1 - part.fromY - y) + part.fromX * kBytesPerPixel;
-    std::uint32_t* to = grid.At({part.toX, part.toY + y});
-    for (int x = 0; x < part.width; ++x, from += kBytesPerPixel) to[x] = Rgb(from[2], from[1], from[0]);
+    BgrToPixels(from, part.width, grid.At({part.toX, part.toY + y}));
   }
 }
 

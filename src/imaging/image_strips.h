@@ -37,11 +37,20 @@ void ForStrips(const ImageEvents& events, int width, int half, Body&& body) {
       std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
 }
 
+// The cache sees no order in the rows of a strip: those that come next are asked for some rows ahead.
+inline void FetchRowAhead(const cDIBSection& surface, int y, int first) {
+  constexpr int kRowsAhead = 4, kCacheLine = 64;
+  const std::uint8_t* bytes =
+      surface.Row(std::min(y + kRowsAhead, surface.Height() - 1)) + first * cDIBSection::kBytesPerPixel;
+  for (int k = 0; k < kStripBytes; k += kCacheLine) __builtin_prefetch(bytes + k);
+}
+
 // The same, row by row: `body(bytes, count)` gets a row's part of the strip.
 template <typename Body>
 void ForStripRows(const ImageEvents& events, cDIBSection& surface, Body&& body) {
   ForStrips(events, surface.Width(), 0, [&](int first, int end) {
     for (int y = 0; y < surface.Height(); ++y) {
+      FetchRowAhead(surface, y, first);
       body(surface.Row(y) + first * cDIBSection::kBytesPerPixel, (end - first) * cDIBSection::kBytesPerPixel);
     }
   });

@@ -26,6 +26,8 @@ template <typename Body>
 void ForCommonRows(const ImageEvents& events, const cDIBSection& first, cDIBSection& second, Body&& body) {
   ForStrips(events, std::min(first.Width(), second.Width()), 0, [&](int from, int end) {
     for (int y = 0; y < std::min(first.Height(), second.Height()); ++y) {
+      FetchRowAhead(first, y, from);
+      FetchRowAhead(second, y, from);
       body(first.Row(y) + from * kBytes, second.Row(y) + from * kBytes, (end - from) * kBytes);
     }
   });

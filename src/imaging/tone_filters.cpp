@@ -3,9 +3,11 @@
 
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <memory>
 #include <vector>
 
+#include "graphics/bgr_rows.h"
 #include "imaging/hls.h"
 
 namespace pelorium {
@@ -74,78 +76,72 @@ void Fade(cDIBSection& surface, int amount, const ImageEvents& events) {
 
 namespace {
 
-// Four pixels at a time, a channel in each.
+// Four pixels at a time.
 constexpr std::size_t kLanes = 4;
 using Reals = float __attribute__((vector_size(16)));
+using Ints = std::int32_t __attribute__((vector_size(16)));
 
-struct Planes {
-  Reals red, green, blue;
-};
+// The processor knows the larger and the smaller of two vectors, but no choice by a condition.
+inline Reals Larger(Reals a, Reals b) { return a > b ? a : b; }
+inline Reals Smaller(Reals a, Reals b) { return a < b ? a : b; }
 
-// HLSToRGB(RGBToHLS(colour) with more luminance), the same to the last bit, without a branch. Channels of
-// 0..1 come in, levels rounded half to even come out.
-Planes Lightened(const Planes& in, float factor) {
-  const Reals zero = {}, one = zero + 1;
-  const Reals larger = in.red > in.green ? in.red : in.green, smaller = in.red > in.green ? in.green : in.red;
-  const Reals max0 = larger > in.blue ? larger : in.blue, min0 = smaller > in.blue ? in.blue : smaller;
-  const Reals d0 = max0 - min0, luminance0 = (max0 + min0) / 2;
-  const Reals range = luminance0 > 0.5F ? 2 - max0 - min0 : max0 + min0;
-  const Reals saturation = d0 == 0 ? zero : d0 / (d0 == 0 ? one : range);
-  const Reals side = in.red == max0     ? in.green - in.blue
-                     : in.green == max0 ? in.blue - in.red
-                                        : in.red - in.green;
-  const Reals sector = in.red == max0 ? zero : in.green == max0 ? zero + 2 : zero + 4;
-  const Reals hue = sector + side / (d0 == 0 ? one : d0);
+// A level of 0..255 as a channel of 0..1: the same as divided by 255. The first factor has 9 bits, so that
+// its products are exact.
+inline Reals Channels(Ints levels) {
+  constexpr float kFirst = 0x1.01p-8F, kSecond = 1.0 / 255 - kFirst;
+  const Reals numbers = __builtin_convertvector(levels, Reals);
+  return numbers * kFirst + numbers * kSecond;
+}
 
-  const Reals raised = factor * luminance0, luminance = raised > 1 ? one : raised;
+// The level of a channel, rounded half to even, in the lowest bits: a float that large has no fraction.
+inline Ints Rounded(Reals channels) {
+  constexpr float kRounder = 12582912;
+  return (Ints)(channels * 255 + kRounder) & 255;
+}
+
+// HLSToRGB(RGBToHLS(colour) with more luminance), the same to the last bit, without a branch. A colour of two
+// equal highest channels has a hue between two sectors; it comes out the same in both.
+inline Ints Lightened(Ints pixels, float factor) {
+  const Reals zero = {}, one = zero + 1, tiny = zero + 1e-30F;
+  const Reals red = Channels(pixels & 255), green = Channels(pixels >> 8 & 255),
+              blue = Channels(pixels >> 16);
+  const Reals max0 = Larger(Larger(red, green), blue), min0 = Smaller(Smaller(red, green), blue);
+  const Reals d0 = max0 - min0, sum = max0 + min0;
+  const Reals range = sum > 1 ? 2 - max0 - min0 : sum;
+  const Reals saturation = d0 / Larger(range, tiny);
+  const Ints isRed = red == max0, isGreen = green == max0;
+  const Reals side = isRed ? green - blue : isGreen ? blue - red : red - green;
+  const Reals sector = isRed ? zero : isGreen ? zero + 2 : zero + 4;
+  const Reals turn = sector + side / Larger(d0, tiny) - sector;
+
+  const Reals luminance = Smaller(factor * (sum / 2), one);
   const Reals dark = (1 - saturation) * luminance, light = luminance - (1 - luminance) * saturation;
   const Reals min = luminance > 0.5F ? light : dark;
-  const Reals max = 2 * luminance - min, d = max - min;
-  const Reals base = hue < 1 ? zero : hue < 3 ? zero + 2 : zero + 4;
-  const Reals turn = hue - base, mid = min + d * (turn < 0 ? -turn : turn);
+  const Reals max = 2 * luminance - min;
+  const Reals mid = min + (max - min) * (Reals)((Ints)turn & INT32_MAX);
 
-  // Added and taken away again it leaves a number below 2^22 rounded half to even.
-  constexpr float kRounder = 12582912;
-  const Reals high = (max * 255 + kRounder) - kRounder, low = (min * 255 + kRounder) - kRounder;
-  const Reals middle = (mid * 255 + kRounder) - kRounder;
-  const Reals next = turn < 0 ? low : middle,
-              last = turn < 0 ? middle : low;  // the channels behind the highest
-  return {base == 0   ? high
-          : base == 2 ? last
-                      : next,
-          base == 0   ? next
-          : base == 2 ? high
-                      : last,
-          base == 0   ? last
-          : base == 2 ? next
-                      : high};
+  const Ints low = Rounded(min), middle = Rounded(mid), isBack = turn < 0;
+  const Ints next = isBack ? low : middle, last = isBack ? middle : low;  // the channels behind the highest
+  const Ints fromRed = Rounded(max) | next << 8 | last << 16;
+  const Ints fromGreen = (fromRed << 8 | fromRed >> 16) & 0xFFFFFF;
+  const Ints fromBlue = (fromRed << 16 | fromRed >> 8) & 0xFFFFFF;
+  return isRed ? fromRed : isGreen ? fromGreen : fromBlue;
 }
 
 }  // namespace
 
-// Levels go in and come out by way of rows of a strip: a vector that is read right behind the writes of its
-// four parts would have to wait for them.
 void Lighten(cDIBSection& surface, int percent, const ImageEvents& events) {
-  constexpr std::size_t kVectors = kStripColumns / kLanes;
-  std::array<float, 256> levels;
-  for (std::size_t i = 0; i < levels.size(); ++i) levels[i] = static_cast<float>(i) / 255;
   const float factor = std::max(static_cast<float>(percent) / 100 + 1, 0.0F);  // below 0 all is black too
-  std::array<Planes, kVectors> strip{};
+  alignas(Ints) std::array<std::uint32_t, kStripColumns> strip{};
   ForStripRows(events, surface, [&](std::uint8_t* bytes, int count) {
-    const auto pixels = static_cast<std::size_t>(count / kBytes);
-    for (std::size_t k = 0; k < pixels; ++k) {
-      Planes& planes = strip[k / kLanes];
-      planes.blue[k % kLanes] = levels[bytes[3 * k]];
-      planes.green[k % kLanes] = levels[bytes[3 * k + 1]];
-      planes.red[k % kLanes] = levels[bytes[3 * k + 2]];
+    BgrToPixels(bytes, count / kBytes, strip.data());
+    for (std::size_t k = 0; k < strip.size(); k += kLanes) {
+      Ints pixels;
+      std::memcpy(&pixels, &strip[k], sizeof pixels);
+      pixels = Lightened(pixels, factor);
+      std::memcpy(&strip[k], &pixels, sizeof pixels);
     }
-    for (Planes& planes : strip) planes = Lightened(planes, factor);
-    for (std::size_t k = 0; k < pixels; ++k) {
-      const Planes& planes = strip[k / kLanes];
-      bytes[3 * k] = static_cast<std::uint8_t>(planes.blue[k % kLanes]);
-      bytes[3 * k + 1] = static_cast<std::uint8_t>(planes.green[k % kLanes]);
-      bytes[3 * k + 2] = static_cast<std::uint8_t>(planes.red[k % kLanes]);
-    }
+    PixelsToBgr(strip.data(), count / kBytes, bytes);
   });
 }
 

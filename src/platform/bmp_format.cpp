@@ -1,4 +1,5 @@
 // .bmp files.
+#include "graphics/bgr_rows.h"
 #include "platform/dib_rows.h"
 #include "platform/image_formats.h"
 
@@ -51,11 +52,8 @@ std::string BmpBytes(const Picture& picture) {
   const std::uint32_t* pixel = picture.Pixels().data();
   for (int y = height - 1; y >= 0; --y) {
     char* to = bytes.data() + start + stride * static_cast<std::size_t>(y);
-    for (int x = 0; x < width; ++x, ++pixel, to += 3) {
-      to[0] = static_cast<char>(*pixel >> 16);
-      to[1] = static_cast<char>(*pixel >> 8);
-      to[2] = static_cast<char>(*pixel);
-    }
+    PixelsToBgr(pixel, width, reinterpret_cast<std::uint8_t*>(to));
+    pixel += width;
   }
   return bytes;
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "graphics/bgr_rows.h"
+
 namespace pelorium {
 
 namespace {
@@ -67,13 +69,14 @@ DecodedImage ReadDibRows(std::string_view bytes, const DibLayout& layout, std::s
   DecodedImage image{layout.width, layout.height, {}};
   image.pixels.resize(static_cast<std::size_t>(layout.width) * static_cast<std::size_t>(layout.height));
   std::uint32_t* to = image.pixels.data();
-  const int bytesPerPixel = layout.bitsPerPixel / 8;
   for (int y = 0; y < layout.height; ++y, to += layout.width) {
     const auto* row = reinterpret_cast<const unsigned char*>(stored.data()) + layout.RowStart(y);
     if (layout.bitsPerPixel <= 8) {
       ReadPaletteRow(row, layout, palette, to);
+    } else if (layout.bitsPerPixel == 24) {
+      BgrToPixels(row, layout.width, to);
     } else {
-      for (int x = 0; x < layout.width; ++x, row += bytesPerPixel) to[x] = StoredColour(row);
+      for (int x = 0; x < layout.width; ++x, row += 4) to[x] = StoredColour(row);
     }
   }
   return image;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cctype>
 #include <string>
+#include <utility>
 
 #include "base/files.h"
 #include "platform/image_formats.h"
@@ -52,10 +53,9 @@ void SavePicture(const Picture& picture, const std::filesystem::path& path) {
 
 void LoadPicture(Picture& picture, const std::filesystem::path& path) {
   const Format& format = FormatOf(path, false);
-  const DecodedImage image = format.read(ReadFile(path), picture.backColour);
-  picture.Resize(image.width, image.height);
+  DecodedImage image = format.read(ReadFile(path), picture.backColour);
+  picture.TakePixels(image.width, image.height, std::move(image.pixels));
   picture.SetScale(image.width, image.height);
-  picture.SetPixels(image.pixels);
 }
 
 }  // namespace pelorium

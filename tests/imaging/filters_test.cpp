@@ -261,6 +261,7 @@ TEST(Filters, LightenAndColouriseEqualTheConversion) {
   for (int x = 0; x < 131; ++x) {  // grays, and two equal channels
     std::fill_n(source.Row(0) + 3 * x, 3, static_cast<std::uint8_t>(2 * x % 256));
     source.Row(1)[3 * x] = source.Row(1)[3 * x + 1 + x % 2];
+    source.Row(2)[3 * x + 1] = source.Row(2)[3 * x + 2];
   }
   lighter = coloured = source;
   Lighten(lighter, 20);

@@ -78,10 +78,10 @@ void Join(std::vector<std::string>& lines, const std::vector<std::string>& more,
 }
 
 // What is looked at of every control, in this order.
-constexpr const char* kFacets[] = {"",           "caption",    "tooltip", "enabled",    "visible",
-                                   "left",       "top",        "width",   "height",     "min",
-                                   "max",        "stands for", "holds",   "scalewidth", "scaleheight",
-                                   "pixelwidth", "pixelheight"};
+constexpr const char* kFacets[] = {"",           "caption",     "tooltip", "enabled",    "visible",
+                                   "left",       "top",         "width",   "height",     "min",
+                                   "max",        "stands for",  "holds",   "scalewidth", "scaleheight",
+                                   "pixelwidth", "pixelheight", "ground"};
 
 std::vector<PropertyValue> LookOf(const Control& c) {
   std::vector<PropertyValue> look = {
@@ -103,6 +103,8 @@ std::vector<PropertyValue> LookOf(const Control& c) {
     const Picture& picture = box->measures();
     look[13] = picture.ScaleWidth(), look[14] = picture.ScaleHeight();
     look[15] = double(picture.PixelWidth()), look[16] = double(picture.PixelHeight());
+  } else if (const auto* text = dynamic_cast<const TextBox*>(&c)) {
+    look[17] = double(text->ground() == TextBox::Ground::Button);
   }
   return look;
 }

@@ -1,6 +1,7 @@
 // Stories of the windows that make the image behind the model.
 #include "app_fixture.h"
 #include "platform/picture_files.h"
+#include "windows/imaging/frm_custom_filter.h"
 #include "windows/imaging/imaging_windows.h"
 #include "windows/imaging/texture_image_maker.h"
 #include "windows/view/form36_view.h"
@@ -127,6 +128,9 @@ TEST_F(GeneratedImages, ACustomFilterIsKeptUnderItsName) {
     return AsText(
         app.FindWindow("frmCustomFilter")->Find("txtValue(" + std::to_string(number) + ")")->Value());
   };
+  const auto ground = [this](int number) {
+    return app.imaging->frmCustomFilter.txtValue[static_cast<std::size_t>(number)]->ground();
+  };
   const auto type = [this](const char* control, const char* text) {
     UserEvent event{"frmCustomFilter", control, UserAction::Type};
     event.text = text;
@@ -135,14 +139,19 @@ TEST_F(GeneratedImages, ACustomFilterIsKeptUnderItsName) {
   platform.onModal = [&](Window&) {
     Press("frmCustomFilter", "cmdOK");  // only the middle: the window stays
     Send("frmCustomFilter", "cboBaseOn", UserAction::Drag, 2);
+    EXPECT_EQ(ground(0), TextBox::Ground::Button);
     type("txtValue(0)", "-3x");
+    EXPECT_EQ(ground(0), TextBox::Ground::Field);
     type("cboName", "mine");
     Press("frmCustomFilter", "cmdOK");
   };
   Press("texture", "customit");
   EXPECT_EQ(platform.TakeMessages(), std::vector<std::string>{"Filters must be at least 3x3 in size."});
   EXPECT_TRUE(std::filesystem::exists(folder() / "filters.txt"));
+  platform.onModal = [&](Window&) { Press("frmCustomFilter", "cmdOK"); };  // the name still stands there
+  Press("texture", "customit");
   platform.onModal = [&](Window&) {
+    EXPECT_EQ(app.imaging->frmCustomFilter.cboName.items().size(), 1U);
     Send("frmCustomFilter", "cboBaseOn", UserAction::Drag, 1);
     EXPECT_EQ(cell(0) + " " + cell(16) + " " + cell(24), "0 0 1");
     type("cboName", "mine");

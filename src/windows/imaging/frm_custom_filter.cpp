@@ -42,7 +42,8 @@ void FrmCustomFilter::MakeCells() {
                                                  isMiddle ? "1" : "0", "factor of the pixel at this place"));
     TextBox& box = *txtValue.back();
     box.onKeyUp = [this, &box] { KeepToDigits(box); };
-    box.onChange = [this] { SumUp(); };
+    box.onChange = [this, &box] { CellChanged(box); };
+    CellChanged(box);
   }
 }
 
@@ -114,6 +115,12 @@ void FrmCustomFilter::KeepToDigits(TextBox& box) {
   std::string kept = box.text();
   std::erase_if(kept, [](char c) { return c != '-' && (c < '0' || c > '9'); });
   box.SetText(kept);
+}
+
+// Cells that take part stand out from the others.
+void FrmCustomFilter::CellChanged(TextBox& box) {
+  box.SetGround(box.Number() != 0 ? TextBox::Ground::Field : TextBox::Ground::Button);
+  SumUp();
 }
 
 void FrmCustomFilter::SumUp() {

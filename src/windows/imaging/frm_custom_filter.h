@@ -39,7 +39,7 @@ class FrmCustomFilter : public ToolWindow {
   StoredFilter Grid() const;
   void ShowGrid(const StoredFilter& grid);
   void KeepToDigits(TextBox& box);
-  void CellChanged();
+  void CellChanged(TextBox& box);
   void SumUp();
   void BaseOn();
   void LoadNamed();
