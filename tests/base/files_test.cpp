@@ -65,6 +65,8 @@ TEST_F(FilesTest, WriteReplaceAndRead) {
   EXPECT_EQ(BytesOf(path), "new\r\n");
   WriteBytes(path, std::string(1 << 16, 'x'));  // a multiple of the read buffer
   EXPECT_EQ(ReadFile(path).size(), std::size_t{1} << 16);
+  WriteBytes(path, std::string(200000, 'x'));
+  EXPECT_EQ(ReadFile(path, 70000).size(), 70000U);  // in the second piece
   EXPECT_EQ(NamesIn(folder()), std::vector<std::string>{"a b\xFF.txt"});
 }
 
