@@ -43,6 +43,9 @@ Face::Face(App& app, Dispatcher& dispatcher)
   };
   Window& frameWindow = Needed(app, WindowRole::Frame);
   Window& splashWindow = Needed(app, WindowRole::Splash);
+  for (const Window* window : app_.windows()) {
+    if (window->role() == WindowRole::Page) menus_.LeaveLettersOf(*window);
+  }
   frame_ = std::make_unique<MainWindow>(frameWindow, dispatcher_, menus_);
   app_.notices.onNotice = [this](const std::string& text, NoticeKind kind) {
     frame_->ShowNotice(text, kind);

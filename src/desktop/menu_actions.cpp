@@ -43,12 +43,20 @@ class BarTips : public QObject {
 
 }  // namespace
 
+void MenuActions::LeaveLettersOf(const Window& window) {
+  for (const Control* control : window.controls()) {
+    const std::string& caption = control->caption();
+    const std::size_t sign = caption.find('&');
+    if (sign != std::string::npos && sign + 1 < caption.size()) takenLetters_ += caption[sign + 1];
+  }
+}
+
 void MenuActions::FillBar(const Window& window, QMenuBar& bar) {
   new BarTips(bar);
   const std::vector<MenuItem*> heads = TopLevelItems(window);
-  ChooseLetters(heads);
+  ChooseLetters(heads, takenLetters_);
   for (MenuItem* head : heads) {
-    barLetters_ += MnemonicAt(head->caption(), shown_[head].mnemonic);
+    takenLetters_ += MnemonicAt(head->caption(), shown_[head].mnemonic);
     QAction* action = Make(*head, &bar);
     bar.addAction(action);
     if (head->children().empty()) continue;
@@ -58,7 +66,7 @@ void MenuActions::FillBar(const Window& window, QMenuBar& bar) {
 
 std::vector<QToolButton*> MenuActions::MakeButtons(const Window& window, QWidget* parent) {
   const std::vector<MenuItem*> heads = TopLevelItems(window);
-  ChooseLetters(heads, barLetters_);
+  ChooseLetters(heads, takenLetters_);
   std::vector<QToolButton*> buttons;
   for (MenuItem* head : heads) {
     auto* button = new QToolButton(parent);

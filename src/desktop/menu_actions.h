@@ -20,6 +20,8 @@ class MenuActions {
   // What a chosen item does.
   explicit MenuActions(std::function<void(MenuItem&)> press) : press_(std::move(press)) {}
 
+  // Letters that controls of the window have for themselves: menus leave them alone.
+  void LeaveLettersOf(const Window& window);
   // All menus of the window.
   void FillBar(const Window& window, QMenuBar& bar);
   // The same as buttons that drop their menus down; letters of the bar are not used again.
@@ -47,7 +49,7 @@ class MenuActions {
   std::function<void(MenuItem&)> press_;
   std::unordered_map<const Control*, Shown> shown_;
   std::vector<const MenuItem*> watched_;
-  std::string barLetters_;
+  std::string takenLetters_;
 };
 
 }  // namespace pelorium
