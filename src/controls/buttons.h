@@ -1,6 +1,8 @@
 // Push buttons, check boxes, option buttons and menu items.
 #pragma once
 
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "controls/control.h"
@@ -66,6 +68,13 @@ class MenuItem : public Control {
 
   const std::vector<MenuItem*>& children() const { return children_; }
   bool isTopLevel() const { return parent_ == nullptr; }
+
+  // How a face shows it: "Ctrl+O"; a line above it.
+  std::string shortcut;
+  bool hasLineAbove = false;
+  // What is missing before it can do its work, such as "nothing copied yet"; empty when nothing is. A face
+  // shows the item disabled meanwhile and says why. It stays enabled for scripts, where it does nothing then.
+  std::function<std::string()> lacks;
 
  private:
   MenuItem* parent_;

@@ -11,6 +11,7 @@
 namespace pelorium {
 
 class Control;
+class MenuItem;
 
 // A face that shows windows learns of every change through this.
 class ControlListener {
@@ -75,13 +76,13 @@ class Window {
   // The control that a person's closing of the window presses, if there is one.
   const Control* closingControl() const { return closingControl_; }
   // The menu in which a face lists the open windows, if there is one.
-  const Control* windowsMenu() const { return windowsMenu_; }
+  const MenuItem* windowsMenu() const { return windowsMenu_; }
 
  protected:
   void SetLayout(LayoutItem layout) { layout_ = std::move(layout); }
   void SetRole(WindowRole role) { role_ = role; }
   void SetClosingControl(const Control* control) { closingControl_ = control; }
-  void SetWindowsMenu(const Control* menu) { windowsMenu_ = menu; }
+  void SetWindowsMenu(const MenuItem* menu) { windowsMenu_ = menu; }
 
  private:
   void NotifyChanged();
@@ -89,7 +90,7 @@ class Window {
   ControlHost& host_;
   WindowRole role_ = WindowRole::Tool;
   const Control* closingControl_ = nullptr;
-  const Control* windowsMenu_ = nullptr;
+  const MenuItem* windowsMenu_ = nullptr;
   std::string name_, caption_;
   bool visible_ = false;
   int shows_ = 0;

@@ -9,6 +9,8 @@
 
 #include "desktop/picture_widget.h"
 #include "desktop/qt_text.h"
+#include "windows/frame/frame_windows.h"
+#include "windows/frame/help_me.h"
 #include "windows/frame/status_line.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/hooks.h"
@@ -29,7 +31,10 @@ Window& Needed(App& app, WindowRole role) {
 }  // namespace
 
 Face::Face(App& app, Dispatcher& dispatcher)
-    : app_(app), dispatcher_(dispatcher), menus_(dispatcher), builder_(dispatcher, views_, menus_) {
+    : app_(app),
+      dispatcher_(dispatcher),
+      menus_([this](MenuItem& item) { PressItem(item); }),
+      builder_(dispatcher, views_, menus_) {
   app_.host.listener = this;
   dispatcher_.onDelivered = [this] { Refresh(); };
   dispatcher_.onDelivering = [this] {
@@ -38,6 +43,9 @@ Face::Face(App& app, Dispatcher& dispatcher)
   };
   Window& frameWindow = Needed(app, WindowRole::Frame);
   Window& splashWindow = Needed(app, WindowRole::Splash);
+  for (const Window* window : app_.windows()) {
+    if (window->role() == WindowRole::Page) menus_.LeaveLettersOf(*window);
+  }
   frame_ = std::make_unique<MainWindow>(frameWindow, dispatcher_, menus_);
   app_.notices.onNotice = [this](const std::string& text, NoticeKind kind) {
     frame_->ShowNotice(text, kind);
@@ -92,6 +100,7 @@ void Face::Refresh() {
   RefreshControls();
   RefreshWindows();
   RefreshPictures();
+  menus_.SyncLacks();
   if (app_.started) frame_->ShowStatus(MouseHint(app_), StatusLine(app_));
   // Not quit(): it asks the windows, and those leave their closing to the program.
   if (app_.exitRequested) QCoreApplication::exit();
@@ -131,6 +140,17 @@ void Face::ShowProgress(Control& control) {
   DrawNow(app_);
   found->second->Sync();
   found->second->widget()->repaint();
+}
+
+// An item that shows the help opens it at what the person has in front.
+void Face::PressItem(MenuItem& item) {
+  HelpMe& help = app_.frame->helpme;
+  const Window* front = frame_->front();
+  const int shows = help.shows();
+  dispatcher_.Press(item, {});
+  if (help.shows() == shows || front == nullptr || front == &help) return;
+  help.ShowSection(front->caption());
+  Refresh();
 }
 
 WindowView* Face::ViewOf(const Window& window) {

@@ -45,6 +45,7 @@ class Face : public ControlListener {
   void RefreshPictures();
   void ShowProgress(Control& control);
   WindowView* ViewOf(const Window& window);
+  void PressItem(MenuItem& item);
 
   App& app_;
   Dispatcher& dispatcher_;

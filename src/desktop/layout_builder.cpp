@@ -90,12 +90,15 @@ QWidget* LayoutBuilder::Build(const Window& window, QWidget* parent) {
 
 // The menus of a page wrap where it ends: a bar would hide those that do not fit.
 QWidget* LayoutBuilder::MakeMenus(const Window& window, QWidget* parent) {
-  const std::vector<MenuItem*> heads = TopLevelItems(window);
-  if (heads.empty()) return nullptr;
   auto* holder = new QWidget(parent);
+  const std::vector<QToolButton*> heads = menus_.MakeButtons(window, holder);
+  if (heads.empty()) {
+    delete holder;
+    return nullptr;
+  }
   FlowLayout* layout = MakeFlowLayout(holder);
   layout->setSpacing(0);
-  for (MenuItem* head : heads) layout->addWidget(menus_.MakeButton(*head, holder));
+  for (QToolButton* head : heads) layout->addWidget(head);
   return holder;
 }
 

@@ -45,7 +45,7 @@ MainWindow::MainWindow(Window& frame, Dispatcher& dispatcher, MenuActions& menus
   setObjectName(ToQt(frame.name()));
   setCentralWidget(&area_);
   setAcceptDrops(true);
-  for (MenuItem* head : TopLevelItems(frame)) menus_.Add(*head, *menuBar());
+  menus_.FillBar(frame, *menuBar());
   statusBar()->setSizeGripEnabled(true);
   notice_.setObjectName("notice");
   notice_.setTextFormat(Qt::PlainText);
@@ -99,11 +99,17 @@ void MainWindow::Sync(WindowView& view) {
   ListWindows();
 }
 
+const Window* MainWindow::front() const {
+  const WindowView* view = area_.front();
+  return view == nullptr ? nullptr : &view->window();
+}
+
 void MainWindow::PutWindowsInOrder() { area_.PutInOrder(); }
 
 // The windows' menu ends with those that are open.
 void MainWindow::ListWindows() {
-  const QAction* head = menus_.ActionOf(frame_.windowsMenu());
+  const MenuItem* item = frame_.windowsMenu();
+  const QAction* head = menus_.ActionOf(item);
   if (head == nullptr) return;
   QMenu& menu = *head->menu();
   for (QAction* action : std::exchange(windowActions_, {})) delete action;
@@ -113,7 +119,10 @@ void MainWindow::ListWindows() {
     QAction* action =
         menu.addAction(ToQt(view->window().caption()), this, [this, view] { area_.Open(*view); });
     action->setToolTip("brings it to the front");
-    if (++number <= kNumberedWindows) action->setShortcut(QKeySequence(Qt::CTRL | (Qt::Key_0 + number)));
+    if (++number <= kNumberedWindows) {
+      action->setShortcut(QKeySequence(ToQt(item->shortcut + std::to_string(number))));
+      action->setShortcutContext(Qt::ApplicationShortcut);
+    }
     windowActions_.push_back(action);
   }
 }

@@ -29,6 +29,8 @@ class MainWindow : public QMainWindow {
   // A person dropped a file on the frame.
   std::function<void(const std::filesystem::path&)> onFileDropped;
   void SyncFrame();
+  // What the person has in front; nullptr if nothing is open.
+  const Window* front() const;
 
   // In the line below the windows; a fault in red, until the next event.
   void ShowNotice(const std::string& text, NoticeKind kind);

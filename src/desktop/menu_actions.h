@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QAction>
+#include <QMenuBar>
 #include <QToolButton>
 #include <QWidget>
+#include <functional>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -12,30 +15,41 @@
 
 namespace pelorium {
 
-class Dispatcher;
-
-// The heads of a window's menus, in their order.
-std::vector<MenuItem*> TopLevelItems(const Window& window);
-
 class MenuActions {
  public:
-  explicit MenuActions(Dispatcher& dispatcher) : dispatcher_(dispatcher) {}
+  // What a chosen item does.
+  explicit MenuActions(std::function<void(MenuItem&)> press) : press_(std::move(press)) {}
 
-  // Adds the item, with all that hangs under it, to a bar or a menu.
-  void Add(MenuItem& item, QWidget& bar);
-  // The same as a button that drops its menu down.
-  QToolButton* MakeButton(MenuItem& head, QWidget* parent);
+  // Letters that controls of the window have for themselves: menus leave them alone.
+  void LeaveLettersOf(const Window& window);
+  // All menus of the window.
+  void FillBar(const Window& window, QMenuBar& bar);
+  // The same as buttons that drop their menus down; letters of the bar are not used again.
+  std::vector<QToolButton*> MakeButtons(const Window& window, QWidget* parent);
 
   // The action of an item, if it was made.
   QAction* ActionOf(const Control* item) const;
   // Shows the present state of an item.
   void Sync(const Control& item);
+  // Shows what the items lack that are in sight or have a shortcut; the others are asked when their menu
+  // opens.
+  void SyncLacks();
 
  private:
-  QAction* Make(MenuItem& item, QWidget* owner);
+  struct Shown {
+    QAction* action = nullptr;
+    int mnemonic = -1;  // place in the caption
+  };
 
-  Dispatcher& dispatcher_;
-  std::unordered_map<const Control*, QAction*> actions_;
+  void ChooseLetters(const std::vector<MenuItem*>& items, const std::string& taken = {});
+  QAction* Make(MenuItem& item, QWidget* owner);
+  QAction* MakeHead(MenuItem& head, QWidget* owner);
+  void Fill(const MenuItem& head, QMenu& menu);
+
+  std::function<void(MenuItem&)> press_;
+  std::unordered_map<const Control*, Shown> shown_;
+  std::vector<const MenuItem*> watched_;
+  std::string takenLetters_;
 };
 
 }  // namespace pelorium

@@ -1,6 +1,7 @@
 // Pages and columns.
 #include "desktop/panel_area.h"
 
+#include <QApplication>
 #include <QResizeEvent>
 #include <QTabBar>
 #include <algorithm>
@@ -147,6 +148,19 @@ std::vector<WindowView*> PanelArea::open() const {
     if (panel->isVisible()) all.push_back(view);
   }
   return all;
+}
+
+WindowView* PanelArea::front() const {
+  for (WindowView* view : open()) {
+    const bool isPage = view->window().role() == WindowRole::Page;
+    if (!isPage && view->Content().isAncestorOf(QApplication::focusWidget())) return view;
+  }
+  const int page = pages_.currentIndex();
+  if (page > 0) return openPages_[static_cast<std::size_t>(page)];
+  for (const PanelColumn* column : {&tools_, &options_}) {
+    if (WindowView* view = column->front()) return view;
+  }
+  return page < 0 ? nullptr : openPages_.front();
 }
 
 bool PanelArea::Holds(WindowView& view) const {

@@ -29,6 +29,9 @@ class PanelArea : public QSplitter {
   void PutInOrder();
   // Pages first, then panels as they were opened.
   std::vector<WindowView*> open() const;
+  // The panel that has the focus; else the page in front, but beside the first page the tool in use, then the
+  // options. nullptr when nothing is open.
+  WindowView* front() const;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QImage>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
@@ -89,6 +90,8 @@ void QtPlatform::SetClipboardPicture(const Picture& picture) {
   const QImage image(pixels, width, height, width * 4, QImage::Format_RGBX8888);
   QApplication::clipboard()->setImage(image.convertToFormat(QImage::Format_RGB32));  // a copy
 }
+
+bool QtPlatform::HasClipboardPicture() { return QApplication::clipboard()->mimeData()->hasImage(); }
 
 std::optional<Picture> QtPlatform::ClipboardPicture() {
   const QImage image = QApplication::clipboard()->image().convertToFormat(QImage::Format_RGBX8888);

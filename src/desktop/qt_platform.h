@@ -31,6 +31,7 @@ class QtPlatform : public Platform {
   std::string ClipboardText() override;
   void SetClipboardPicture(const Picture& picture) override;
   std::optional<Picture> ClipboardPicture() override;
+  bool HasClipboardPicture() override;
   std::filesystem::path SettingsFolder(const std::filesystem::path& programFolder) override;
   void Print(const std::string& text) override;
   void OpenInBrowser(const std::string& address) override;

@@ -1,6 +1,7 @@
 // A text with looks on the screen.
 #include "desktop/rich_text_widget.h"
 
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -115,7 +116,9 @@ void RichTextWidget::ShowSelection() {
   if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
   cursor.setPosition(start);
   cursor.setPosition(end, QTextCursor::KeepAnchor);
+  const bool wasInSight = viewport()->rect().contains(cursorRect(cursor));
   setTextCursor(cursor);
+  if (!wasInSight) verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top());
 }
 
 void RichTextWidget::OnTextChanged() {

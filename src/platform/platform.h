@@ -38,6 +38,7 @@ class Platform {
   virtual void SetClipboardPicture(const Picture& picture) = 0;
   // Empty when the clipboard holds no picture.
   virtual std::optional<Picture> ClipboardPicture() = 0;
+  virtual bool HasClipboardPicture() { return ClipboardPicture().has_value(); }
   // Where what a person keeps from one session to the next lies; a machine without such a place takes the
   // program's folder.
   virtual std::filesystem::path SettingsFolder(const std::filesystem::path& programFolder) = 0;

@@ -1,5 +1,6 @@
 // What a person does with mouse and keyboard reaches the program, and what the program draws reaches the
 // screen.
+#include <QAction>
 #include <QComboBox>
 #include <QDropEvent>
 #include <QFileDialog>
@@ -28,6 +29,7 @@
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
 #include "desktop/face_fixture.h"
+#include "desktop/mnemonics.h"
 
 namespace pelorium {
 namespace {
@@ -331,8 +333,33 @@ TEST_F(FaceTest, ATypedNumberOutOfRangeShowsItsLimitLater) {
 }
 
 TEST_F(FaceTest, CaptionsStandToTheLetter) {
-  EXPECT_EQ(frame().menuBar()->actions().at(0)->text().toStdString(), "Files |");
-  EXPECT_EQ(frame().menuBar()->actions().at(7)->text().toStdString(), "Image  |");
+  // But for the mark of the letter.
+  EXPECT_EQ(frame().menuBar()->actions().at(0)->text().remove('&').toStdString(), "Files |");
+  EXPECT_EQ(frame().menuBar()->actions().at(7)->text().remove('&').toStdString(), "Image  |");
+}
+
+TEST_F(FaceTest, MenusTellWhatTheyLackAndF1OpensTheSectionOfThePanel) {
+  const auto& paste = *frame().findChild<QAction*>("MDIForm1.pastepart");
+  EXPECT_FALSE(paste.isEnabled());
+  EXPECT_EQ(paste.toolTip().toStdString(), "what was copied replaces the current Part (nothing copied yet)");
+  auto& help = Controlled<RichTextBox>("helpme", "RichTextBox1");
+  help.SetOwnValue(std::string("First\nMaterials\ntext"));
+  for (const char* item : {"Command1", "copypart", "mterials"}) {
+    app().Deliver({item == std::string("Command1") ? "shapes" : "MDIForm1", item});
+  }
+  Settle();
+  EXPECT_TRUE(paste.isEnabled());
+  QTest::keyClick(&frame(), Qt::Key_F1);
+  Settle();
+  const Lines lines = NewJournalLines();
+  EXPECT_EQ(std::count(lines.begin(), lines.end(), "press MDIForm1.helpnow"), 1);
+  EXPECT_EQ(help.selectionStart(), 6);
+}
+
+TEST(Mnemonics, AreLettersOfTheirOwnAsManyAsCanBe) {
+  EXPECT_EQ(ChooseMnemonics({"Copy", "Cut it", "C", "Exit"}), (std::vector<int>{1, 4, 0, 0}));
+  EXPECT_EQ(ChooseMnemonics({"ab", "b", "--"}, "A"), (std::vector<int>{-1, 0, -1}));
+  EXPECT_EQ(WithMnemonic("A & b", 4), "A && &b");
 }
 
 TEST_F(FaceTest, MarksFollowTheProgram) {

@@ -31,8 +31,9 @@ class Program {
  public:
   Program() : old_(std::filesystem::current_path()) {
     std::filesystem::current_path(folder_.path());
-    for (const char* name : {"projects", "objs", "objinfo", "parts1", "parts4"})
+    for (const char* name : {"projects", "objs", "objinfo", "parts0", "parts1", "parts4"})
       std::filesystem::create_directory(name);
+    std::filesystem::copy_file(PELORIUM_TESTS_DIR "/../data/parts/presetlist.txt", "parts0/presetlist.txt");
     app.drawsAtOnce = std::getenv("PELORIUM_DRAW_AT_ONCE") != nullptr;
     app.Start();
     app.faults.TakeAll();

@@ -1,6 +1,8 @@
 // The command set, and the end.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "app_fixture.h"
 #include "windows/frame/command_table.h"
 #include "windows/frame/frame_windows.h"
@@ -25,6 +27,37 @@ TEST_F(CommandSet, EveryMenuItemHasItsHeadAndEveryButtonItsItem) {
     EXPECT_TRUE(button.menuItem.empty() || app.frame->mdiForm1.Find(button.menuItem) != nullptr)
         << button.caption;
   }
+}
+
+// Every item of the two menu trees, with what it lacks.
+TEST_F(CommandSet, ItemsAreAtWorkButThoseThatLackSomething) {
+  std::set<std::string> idle;
+  const auto lacking = [this, &idle] {
+    std::string all;
+    for (const char* window : {"MDIForm1", "texture"}) {
+      for (const Control* control : app.FindWindow(window)->controls()) {
+        const auto* item = dynamic_cast<const MenuItem*>(control);
+        if (item == nullptr) continue;
+        EXPECT_TRUE(item->enabled()) << item->name();
+        EXPECT_EQ(item->children().empty(), !item->toolTip().empty()) << item->name();
+        if (item->children().empty() && !item->onClick) idle.insert(item->name());
+        const std::string lack = item->lacks ? item->lacks() : "";
+        if (!lack.empty()) all += item->name() + ": " + lack + "\n";
+      }
+    }
+    return all;
+  };
+  EXPECT_EQ(lacking(),
+            "getitclip: no picture on the clipboard\npastepart: nothing copied yet\n"
+            "pasteintome: nothing copied yet\ngetclkip: no picture on the clipboard\n"
+            "getclip2nd: no picture on the clipboard\n");
+  EXPECT_EQ(idle, (std::set<std::string>{"transfer2to3", "transfer3to2", "transferoneto3"}));
+  platform.SetClipboardPicture(Picture(2, 2));
+  MakeCup();
+  PressItem("copypart");
+  EXPECT_EQ(lacking(), "");
+  PressItem("erase");  // with what was copied
+  EXPECT_EQ(lacking(), "pastepart: nothing copied yet\npasteintome: nothing copied yet\n");
 }
 
 // The number of the Part is held to 1, which shows once the typing is over.

@@ -1,11 +1,15 @@
 // The help, about and splash windows, by pressing their controls.
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "platform/headless_platform.h"
 #include "support/harness.h"
+#include "windows/frame/command_table.h"
 #include "windows/frame/frame_windows.h"
 #include "windows/frame/frm_splash.h"
 #include "windows/frame/help_me.h"
+#include "windows/frame/mdi_form1.h"
 #include "windows/shell/app_shell.h"
 
 namespace pelorium {
@@ -52,6 +56,60 @@ TEST_F(HelpWindows, HelpIsLoadedFromTheProgramsFolder) {
   app.frame->helpme.LoadHelp();
   EXPECT_EQ(HelpText(), "Help\ntext");
   EXPECT_TRUE(FirstLook().bold);
+}
+
+std::string HeadingOf(const TextParagraph& paragraph) {
+  if (paragraph.runs.empty() || !paragraph.runs[0].format.bold || paragraph.runs[0].format.points < 13)
+    return {};
+  return paragraph.runs[0].text;
+}
+
+// The program itself, then the windows as the menus show them; what opens from the image maker behind it.
+std::vector<std::string> CaptionsInMenuOrder(const App& app) {
+  std::vector<std::string> names = {"MDIForm1"};
+  const auto add = [&names](std::string_view target) {
+    const std::string name(target.substr(0, target.find('.')));
+    if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+    if (name == "texture") {
+      names.insert(names.end(), {"Form15", "Plasmathree", "frmCustomFilter", "frmAddNoise", "Form45"});
+    }
+  };
+  for (const MenuCommand& command : MenuCommands()) {
+    const CommandKind kind = command.action.kind;
+    const bool shows =
+        kind == CommandKind::Show || kind == CommandKind::Edit || kind == CommandKind::EditAndOn;
+    const bool isOnlyPressed = command.name == "openprof";  // no item shows its window
+    if (shows || isOnlyPressed || command.name == "openproj") add(command.action.target);
+  }
+  std::vector<std::string> captions;
+  for (const std::string& name : names) captions.push_back(app.FindWindow(name)->caption());
+  return captions;
+}
+
+TEST_F(HelpWindows, EveryWindowHasASectionWithAnExampleThatIsPlayed) {
+  fs::copy_file(PELORIUM_TESTS_DIR "/../data/help.rtf", folder() / "help.rtf");
+  app.frame->helpme.LoadHelp();
+  const std::string played = BytesOf(PELORIUM_TESTS_DIR "/script/transcripts/help.txt");
+  std::vector<std::string> headings;
+  std::size_t examples = 0;
+  for (const TextParagraph& paragraph : app.frame->helpme.RichTextBox1.text().Paragraphs()) {
+    const std::string heading = HeadingOf(paragraph);
+    if (heading.empty()) {
+      examples += !paragraph.runs.empty() && paragraph.runs[0].text == "Example:";
+      continue;
+    }
+    EXPECT_EQ(examples, headings.size()) << "before " << heading;
+    headings.push_back(heading);
+    const std::size_t first = heading.find_first_not_of(' '), last = heading.find_last_not_of(' ');
+    EXPECT_NE(played.find("\n--- " + heading.substr(first, last - first + 1) + "\n"), std::string::npos)
+        << heading;
+  }
+  EXPECT_EQ(examples, headings.size());
+  EXPECT_EQ(headings, CaptionsInMenuOrder(app));
+  EXPECT_EQ(headings.size() + 1, app.windows().size()) << "all but the splash window";
+  app.frame->helpme.ShowSection("Materials");
+  const int cursor = app.frame->helpme.RichTextBox1.selectionStart();
+  EXPECT_EQ(app.frame->helpme.RichTextBox1.text().Plain(cursor - 1, 17), "\nMaterials\nEvery ");
 }
 
 TEST_F(HelpWindows, CopyPasteAndPrintTakeTheSelection) {

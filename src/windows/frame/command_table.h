@@ -1,12 +1,10 @@
-// The command set: one table for the menu bar and for the row of buttons in the view window that repeats
-// parts of it.
+// The command set: one table for the menu bar, its shortcuts and tool tips, and for the row of buttons in the
+// view window that repeats parts of it.
 #pragma once
 
-#include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
-
-#include "controls/buttons.h"
 
 namespace pelorium {
 
@@ -24,26 +22,30 @@ enum class CommandKind {
   Mark,       // the same where no point moves: without the corners
 };
 
+// What a command does, with what.
+struct CommandAction {
+  constexpr CommandAction() = default;
+  constexpr CommandAction(CommandKind k, std::string_view what, std::string_view with = {})
+      : kind(k), target(what), also(with) {}
+  constexpr CommandAction(CommandKind k, void (*routine)(App&)) : kind(k), run(routine) {}
+
+  CommandKind kind = CommandKind::Head;
+  std::string_view target, also;  // "Form31" or "Form31.Command15"
+  void (*run)(App&) = nullptr;
+};
+
 struct MenuCommand {
   std::string_view menu;  // the head it stands under; empty for the menu bar itself
   std::string_view caption;
   std::string_view name;
-  CommandKind kind = CommandKind::Head;
-  std::string_view target = {};  // "Form31" or "Form31.Command15"
-  void (*run)(App&) = nullptr;
-  std::string_view also = {};
-  std::string_view toolTip = {};
+  CommandAction action = {};
+  std::string_view toolTip = {};  // empty: that of the control it presses
+  std::string_view shortcut =
+      {};  // of a head: opens it; of the windows' menu: what a window's number follows
+  bool hasLineAbove = false;
+  std::string (*lacks)(App&) = nullptr;  // MenuItem::lacks
 };
 
 const std::vector<MenuCommand>& MenuCommands();
-
-// True when all that the command needs exists: its window, its button (and that is enabled), its routine.
-// Commands whose window is still to come stand in the menu disabled.
-bool IsAvailable(const App& app, const MenuCommand& command);
-// Faults are noted under the name of the control that was pressed.
-void RunMenuCommand(App& app, const MenuCommand& command, const Control& pressed);
-
-// The buttons of the row in the view window do what their menu items do; "Collapse into part#" has none.
-void BindCommandRow(App& app, const std::vector<std::unique_ptr<PushButton>>& row);
 
 }  // namespace pelorium

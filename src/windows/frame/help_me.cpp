@@ -6,6 +6,7 @@
 #include "base/files.h"
 #include "controls/lists.h"
 #include "controls/rich_text_format.h"
+#include "controls/utf8.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
 
@@ -50,6 +51,16 @@ void HelpMe::WireButtons() {
 }
 
 void HelpMe::LoadHelp() { OpenText(app_.applicationPath / "help.rtf"); }
+
+void HelpMe::ShowSection(std::string_view caption) {
+  int start = 0;
+  for (const TextParagraph& paragraph : RichTextBox1.text().Paragraphs()) {
+    std::string line;
+    for (const TextRun& run : paragraph.runs) line += run.text;
+    if (line == caption) return RichTextBox1.SetSelection(start, 0);
+    start += static_cast<int>(FromUtf8(line).size()) + 1;
+  }
+}
 
 void HelpMe::OpenText(const std::filesystem::path& path) {
   RichTextBox1.SetText(ReadTextFile(ReadFile(path)));

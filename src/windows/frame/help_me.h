@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 #include "controls/boxed_bar.h"
 #include "controls/buttons.h"
@@ -19,6 +20,8 @@ class HelpMe : public ToolWindow {
 
   // Shows the text of "help.rtf" in the program's folder; FileError if it cannot be read.
   void LoadHelp();
+  // Puts the cursor before the heading that is a window's caption; no such heading leaves it.
+  void ShowSection(std::string_view caption);
 
   RichTextBox RichTextBox1{*this, "RichTextBox1", "help and notes"};
   PushButton Command1{*this, "Command1", "Paste", "puts the clipboard's text in place of the selection"};

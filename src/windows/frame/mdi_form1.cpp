@@ -9,6 +9,7 @@
 #include "windows/frame/command_table.h"
 #include "windows/frame/frame_windows.h"
 #include "windows/frame/help_me.h"
+#include "windows/frame/run_command.h"
 #include "windows/geometry/geometry_windows.h"
 #include "windows/geometry/revolveprof_revolve_profile.h"
 #include "windows/shell/app_shell.h"
@@ -36,6 +37,10 @@ MDIForm1::MDIForm1(App& app) : Window(app.host, "MDIForm1", kTitle), app_(app) {
   for (const MenuCommand& command : MenuCommands()) {
     menu_.push_back(std::make_unique<MenuItem>(*this, std::string(command.name), std::string(command.caption),
                                                FindItem(menu_, command.menu)));
+    MenuItem& item = *menu_.back();
+    item.shortcut = command.shortcut;
+    item.hasLineAbove = command.hasLineAbove;
+    if (command.lacks != nullptr) item.lacks = [this, &command] { return command.lacks(app_); };
   }
   SetRole(WindowRole::Frame);
   SetClosingControl(FindItem(menu_, "exiter"));
@@ -60,7 +65,7 @@ void MDIForm1::BindCommands() {
   for (const MenuCommand& command : MenuCommands()) {
     MenuItem* item = FindItem(menu_, command.name);
     item->SetEnabled(IsAvailable(app_, command));
-    item->SetToolTip(std::string(command.toolTip));
+    item->SetToolTip(std::string(ToolTipOf(app_, command)));
     item->onClick = [this, item, &command](const Click&) { RunMenuCommand(app_, command, *item); };
   }
   BindCommandRow(app_, app_.view->form36.commandRow);

@@ -198,6 +198,8 @@ class Texture : public ToolWindow {
   void PressImage(Image image, const MouseEvent& event);
   void MoveOver(Image image, const MouseEvent& event, bool isDrawing);
   void ReleaseImage(Image image);
+  // Away from the person to smaller pans: up and down, with Shift across.
+  void PanByWheel(const WheelEvent& wheel);
   void PickFromPalette(const MouseEvent& event);
   Colour ShowColourAt(const PictureBox& box, const MouseEvent& event);
   void ShowColour(Colour colour);

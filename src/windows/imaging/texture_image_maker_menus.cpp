@@ -8,12 +8,13 @@
 #include "windows/imaging/view_image.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
+#include "windows/shell/readers.h"
 
 namespace pelorium {
 
 namespace {
 
-constexpr const char* kNoAction = "has no action";
+constexpr const char* kNoAction = "there is no third picture: nothing happens";
 constexpr Colour kColourMask = 0xFFFFFF;
 
 // Of the effects that are named for a colour, the swatch of the sample shows the number behind its own.
@@ -47,13 +48,15 @@ void Texture::MakeMenus() {
       [this] { PressInFileWindow("Command19"); }, "Form15");
   AddItem(
       files, "openme2nd", "Open into Background image", "effects stamp on it",
-      [this] { PressInFileWindow("Command2"); }, "Form15");
+      [this] { PressInFileWindow("Command2"); }, "Form15")
+      .hasLineAbove = true;
   AddItem(
       files, "saveme2nd", "Save Background image to bmp", "as it is now",
       [this] { PressInFileWindow("Command1"); }, "Form15");
   AddItem(
       files, "savit", "Open/Save Bmp  ", "shows the files; filters work on the Foreground as it is now",
-      [this] { ShowWindow("Form15"), LoadSource(); }, "Form15");
+      [this] { ShowWindow("Form15"), LoadSource(); }, "Form15")
+      .hasLineAbove = true;
   MakeEffectMenu();
   MakeFilterMenu();
 
@@ -62,7 +65,7 @@ void Texture::MakeMenus() {
           [this] { CopyImage(Foreground, Background); });
   AddItem(copies, "transfertoone", "copy Background to Foreground",
           "with its size; filters follow at fix image", [this] { CopyImage(Background, Foreground); });
-  AddItem(copies, "transfer2to3", "copy 2 to 3", kNoAction, {});
+  AddItem(copies, "transfer2to3", "copy 2 to 3", kNoAction, {}).hasLineAbove = true;
   AddItem(copies, "transfer3to2", "copy 3 to 2", kNoAction, {});
   AddItem(copies, "transferoneto3", "copy 1 to 3", kNoAction, {});
 
@@ -71,13 +74,18 @@ void Texture::MakeMenus() {
           [this] { PutOnClipboard(Foreground); });
   AddItem(clipboard, "savetoclipboard2nd", "Save to clipboard (Background)", "the whole picture",
           [this] { PutOnClipboard(Background); });
-  AddItem(clipboard, "getclkip", "get from clipboard (Foreground)",
-          "the Foreground becomes the picture of the clipboard; filters follow at fix image",
-          [this] { GetFromClipboard(Foreground); });
-  AddItem(clipboard, "getclip2nd", "get from clipboard (Background)",
-          "the Background becomes the picture of the clipboard", [this] { GetFromClipboard(Background); });
+  MenuItem* const taking[] = {
+      &AddItem(clipboard, "getclkip", "get from clipboard (Foreground)",
+               "the Foreground becomes the picture of the clipboard; filters follow at fix image",
+               [this] { GetFromClipboard(Foreground); }),
+      &AddItem(clipboard, "getclip2nd", "get from clipboard (Background)",
+               "the Background becomes the picture of the clipboard",
+               [this] { GetFromClipboard(Background); })};
+  for (MenuItem* item : taking) item->lacks = [this] { return LackOfPicture(app_); };
+  taking[0]->hasLineAbove = true;
   AddItem(clipboard, "wallpaperme", "Set to Wallpaper",
-          "saves the Foreground as Plasma.bmp and puts it behind the screen", [this] { SetAsWallpaper(); });
+          "saves the Foreground as Plasma.bmp and puts it behind the screen", [this] { SetAsWallpaper(); })
+      .hasLineAbove = true;
 
   AddItem(
       nullptr, "imagesize", "Gradiant maker  |", "gradients for the Background and the palette",
@@ -105,7 +113,9 @@ void Texture::MakeEffectMenu() {
     AddItem(effects, effect.item, effect.caption, "walks the Foreground and stamps the Background",
             [this, &effect] { RunEffect(effect); });
   }
-  AddItem(effects, "plasmait", "plasma", "fills the Foreground with a cloud", [this] { FillWithPlasma(); });
+  AddItem(effects, "plasmait", "plasma", "fills the Foreground with a cloud", [this] {
+    FillWithPlasma();
+  }).hasLineAbove = true;
   AddItem(
       effects, "plasmathreeme", "PlasmaCreator", "clouds on the picture of the view",
       [this] { ShowWindow("Plasmathree"); }, "Plasmathree");

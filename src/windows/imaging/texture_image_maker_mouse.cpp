@@ -32,10 +32,18 @@ void Texture::BindMouse() {
     box.onMouseDown = [this, image](const MouseEvent& event) { PressImage(image, event); };
     box.onMouseMove = [this, image](const MouseEvent& event) { MoveOver(image, event, isDrawing_); };
     box.onMouseUp = [this, image](const MouseEvent&) { ReleaseImage(image); };
+    box.onWheel = [this](const WheelEvent& wheel) { PanByWheel(wheel); };
   }
   Picture11.onMouseDown = Picture11.onMouseMove = [this](const MouseEvent& event) { PickFromPalette(event); };
   Shape2.form = Shape::Form::Circle;
   Shape2.SetVisible(true);
+}
+
+void Texture::PanByWheel(const WheelEvent& wheel) {
+  constexpr int kSmallChanges = 3;  // a step
+  if (wheel.keys.ctrl) return;
+  ScrollBar& pan = wheel.keys.shift ? HScroll22 : VScroll1;
+  pan.Drag(pan.value() - wheel.steps * kSmallChanges * pan.smallChange);
 }
 
 // A profile is drawn by a press on the Foreground only; over the Background the pointer has to move.

@@ -11,4 +11,8 @@ PickShapeSettings PickSettings(const App& app) { return app.links.pickShape(); }
 int ChosenPoint(const App& app) { return app.links.chosenPoint(); }
 int ChosenFace(const App& app) { return app.links.chosenFace(); }
 
+std::string LackOfPicture(App& app) {
+  return app.platform.HasClipboardPicture() ? "" : "no picture on the clipboard";
+}
+
 }  // namespace pelorium

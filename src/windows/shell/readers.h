@@ -2,6 +2,8 @@
 // view/shared_parameters.h.
 #pragma once
 
+#include <string>
+
 #include "windows/shell/room_links.h"
 
 namespace pelorium {
@@ -17,5 +19,7 @@ PickShapeSettings PickSettings(const App& app);
 // The point and the face of Face Info: the views mark them.
 int ChosenPoint(const App& app);
 int ChosenFace(const App& app);
+// Why nothing can be taken from the clipboard; empty when it holds a picture.
+std::string LackOfPicture(App& app);
 
 }  // namespace pelorium

@@ -30,6 +30,7 @@ class SeenPlatform : public Platform {
   std::string ClipboardText() override { return machine_.ClipboardText(); }
   void SetClipboardPicture(const Picture& picture) override { machine_.SetClipboardPicture(picture); }
   std::optional<Picture> ClipboardPicture() override { return machine_.ClipboardPicture(); }
+  bool HasClipboardPicture() override { return machine_.HasClipboardPicture(); }
   std::filesystem::path SettingsFolder(const std::filesystem::path& programFolder) override {
     return machine_.SettingsFolder(programFolder);
   }
