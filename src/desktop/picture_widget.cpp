@@ -16,7 +16,7 @@ namespace pelorium {
 namespace {
 
 constexpr QSize kLeastFollowingSize(160, 120);
-constexpr QSize kLeastPane(320, 240);
+constexpr QSize kLeastPane(320, 160);
 
 QColor ToQt(Colour colour) { return {Red(colour), Green(colour), Blue(colour)}; }
 
