@@ -41,6 +41,10 @@ LayoutItem Upright(Control& bar) {
   return item;
 }
 
+LayoutItem Headed(Control& heading, LayoutItem row) {
+  return {LayoutKind::Column, {}, {&heading}, {std::move(row)}};
+}
+
 LayoutItem Labelled(std::string label, Control& control) {
   return {LayoutKind::Single, std::move(label), {&control}, {}};
 }
@@ -53,6 +57,15 @@ LayoutItem Stretching(LayoutItem item) {
 LayoutItem Scrolling(LayoutItem item) {
   item.scrolls = true;
   return item;
+}
+
+LayoutItem Compact(LayoutItem item) {
+  item.isCompact = true;
+  return item;
+}
+
+LayoutItem Fold(LayoutItem shown, LayoutItem folded, std::string toolTip) {
+  return {LayoutKind::Fold, {}, {}, {std::move(shown), std::move(folded)}, false, std::move(toolTip)};
 }
 
 }  // namespace pelorium

@@ -47,6 +47,8 @@ class PictureBox : public Control {
 
   // True when the box takes the size its window gives it; the picture is then resized through onResize.
   bool followsWindow = false;
+  // True when its present size is what a screen has room for: what it shows is then opened in its middle.
+  bool isOnScreen = false;
 
   PropertyValue Value() const override { return name(); }
   void SetOwnValue(const PropertyValue&) override {}

@@ -29,6 +29,7 @@ struct UserEvent {
   Click click = {};
   float x = 0, y = 0;
   int width = 0, height = 0;
+  bool onScreen = false;  // of a Resize: the picture got that size on a screen
 };
 
 }  // namespace pelorium

@@ -11,7 +11,7 @@
 
 namespace pelorium {
 
-constexpr int kShortestBar = 110;  // pixels; room for the two arrows and a thumb that moves visibly
+constexpr int kShortestBar = 100;  // pixels; room for the two arrows and a thumb that moves visibly
 
 BarWidget::BarWidget(ScrollBar& bar, Qt::Orientation orientation, Dispatcher& dispatcher, QWidget* parent)
     : QScrollBar(orientation, parent), bar_(bar), dispatcher_(dispatcher) {

@@ -44,7 +44,8 @@ void PushButtonWidget::Sync() {
 // Narrower than the style's own: many buttons carry one letter and stand in rows.
 QSize PushButtonWidget::sizeHint() const {
   const QSize usual = QPushButton::sizeHint();
-  const QSize ofText = fontMetrics().size(Qt::TextShowMnemonic, text());
+  const QSize ofText = fontMetrics().size(Qt::TextShowMnemonic, isCompact_ ? text().trimmed() : text());
+  if (isCompact_) return ofText + QSize(12, 6);
   return {ofText.width() + 22, std::max(usual.height(), ofText.height() + 10)};
 }
 

@@ -18,6 +18,8 @@ class PushButtonWidget : public QPushButton, public ControlView {
   QWidget* widget() override { return this; }
   void Sync() override;
   QSize sizeHint() const override;
+  // For rows of many.
+  void BeCompact() { isCompact_ = true; }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -29,7 +31,8 @@ class PushButtonWidget : public QPushButton, public ControlView {
 
   PushButton& button_;
   Dispatcher& dispatcher_;
-  Keys keys_;             // held down with the mouse button that is being let go
+  Keys keys_;  // held down with the mouse button that is being let go
+  bool isCompact_ = false;
   bool wasTold_ = false;  // the press was told when the mouse button went down
 };
 

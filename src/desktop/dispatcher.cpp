@@ -63,7 +63,7 @@ void Dispatcher::DeliverNow(const UserEvent& event) {
 }
 
 void Dispatcher::RunHandlers(const UserEvent& event) {
-  if (onDelivering) onDelivering();
+  if (onDelivering && event.action != UserAction::Resize) onDelivering();  // nobody did that
   isBusy_ = true;
   journal_.BeginDelivery();
   app_.Deliver(event);

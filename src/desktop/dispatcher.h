@@ -43,7 +43,7 @@ class Dispatcher {
   // Runs a loop inside a handler (a dialog, a modal window): events go through while it lasts.
   void RunNested(const std::function<void()>& loop);
 
-  // Before each delivery, and after it: the moment to show what changed.
+  // Before each delivery of what a person did, and after each: the moment to show what changed.
   std::function<void()> onDelivering, onDelivered;
 
  private:

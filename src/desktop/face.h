@@ -34,6 +34,7 @@ class Face : public ControlListener {
   void RunModal(Window& window);
 
   MainWindow& frame() { return *frame_; }
+  SplashWindow& splash() { return *splash_; }
 
   void ControlChanged(Control& control) override;
   void WindowChanged(Window& window) override;

@@ -1,6 +1,8 @@
 // Labels, titled boxes and progress bars on the screen.
 #include "desktop/label_widgets.h"
 
+#include <QPainter>
+#include <QRegularExpression>
 #include <algorithm>
 
 #include "desktop/dispatcher.h"
@@ -11,6 +13,7 @@ namespace pelorium {
 namespace {
 
 constexpr int kWidestKeptRoom = 300;  // pixels
+constexpr int kWidestLine = 380;      // pixels: what is longer wraps
 
 // A hand over what can be clicked on though it does not look like a button.
 void ShowWhetherClickable(QWidget& widget, const Control& control) {
@@ -35,6 +38,7 @@ void LabelWidget::Sync() {
   const QString caption = ToQt(label_.caption());
   if (text() != caption) {
     setText(caption);
+    setWordWrap(fontMetrics().horizontalAdvance(caption) > kWidestLine);
     KeepRoom();
   }
   SyncCommon(*this, label_);
@@ -46,6 +50,18 @@ void LabelWidget::KeepRoom() {
   const bool showsNumber = !text().isEmpty() && text().back().isDigit();
   const int wanted = fontMetrics().horizontalAdvance(showsNumber ? text() + "000" : text());
   if (wanted <= kWidestKeptRoom) setMinimumWidth(std::max(minimumWidth(), wanted + 2 * margin()));
+}
+
+void LabelWidget::paintEvent(QPaintEvent* event) {
+  if (columns_.empty()) return QLabel::paintEvent(event);
+  static const QRegularExpression kWideGap(QStringLiteral(" {2,}"));
+  const QStringList words = text().split(kWideGap, Qt::SkipEmptyParts);
+  QPainter painter(this);
+  for (std::size_t i = 0; i < columns_.size() && static_cast<qsizetype>(i) < words.size(); ++i) {
+    const int left = mapFromGlobal(columns_[i]->mapToGlobal(QPoint(0, 0))).x();
+    painter.drawText(QRect(left, 0, width() - left, height()), Qt::AlignVCenter,
+                     words[static_cast<qsizetype>(i)]);
+  }
 }
 
 GroupWidget::GroupWidget(Control& frame, Dispatcher& dispatcher, QWidget* parent)

@@ -17,11 +17,19 @@ class LabelWidget : public QLabel, public ControlView {
 
   QWidget* widget() override { return this; }
   void Sync() override;
+  // Room for numbers of so many digits, however few there are.
+  void KeepRoomFor(int digits) { setMinimumWidth(fontMetrics().horizontalAdvance('0') * digits); }
+  // The words between its wide gaps stand above these, one above each.
+  void StandAbove(std::vector<QWidget*> columns) { columns_ = std::move(columns); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void KeepRoom();
 
   Control& label_;
+  std::vector<QWidget*> columns_;
 };
 
 // A titled box around other controls.

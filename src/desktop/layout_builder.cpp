@@ -4,14 +4,18 @@
 #include <QGroupBox>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QToolButton>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/bar_widget.h"
+#include "desktop/button_widgets.h"
 #include "desktop/flow_layout.h"
 #include "desktop/label_widgets.h"
 #include "desktop/menu_actions.h"
 #include "desktop/picture_widget.h"
 #include "desktop/qt_text.h"
+#include "desktop/text_widget.h"
 #include "desktop/view_factory.h"
 
 namespace pelorium {
@@ -19,11 +23,18 @@ namespace pelorium {
 namespace {
 
 constexpr int kGap = 6;                // pixels between widgets
+constexpr int kFrameMargin = 4;        // pixels
+constexpr int kCompactGap = 3;         // pixels: where every row counts
+constexpr int kCompactNumber = 6;      // digits
+constexpr int kTriangle = 18;          // pixels
 constexpr int kComfortableFlow = 360;  // pixels: a few buttons a row
 constexpr int kWidestLabel = 190;      // pixels: longer texts before a bar wrap
 constexpr int kWidestTitle = 340;      // pixels: longer titles of frames wrap
+constexpr int kPanelRoom = 408;        // pixels: a panel's width at first without its scroll bar and margins
+constexpr int kLeastScrolled = 160;    // pixels: of a picture that scrolls
 constexpr int kRowHeight = 22;         // pixels: rows with a box and rows without look alike
-constexpr int kLabelColumn = 0, kBarColumn = 1, kFirstBoxColumn = 2;
+constexpr int kLabelColumn = BarGrids::kLabelColumn, kBarColumn = BarGrids::kBarColumn,
+              kFirstBoxColumn = BarGrids::kFirstBoxColumn;
 
 bool IsAligned(const LayoutItem& item) {
   return item.kind == LayoutKind::BarRow || (item.kind == LayoutKind::Single && !item.title.empty());
@@ -71,6 +82,26 @@ FlowLayout* MakeFlowLayout(QWidget* holder) {
   return layout;
 }
 
+// A text and its value. Rows that wrap anew while numbers grow would resize the picture below them.
+void TightenPair(QObject& pair) {
+  for (QObject* part : pair.children()) {
+    auto* value = dynamic_cast<LabelWidget*>(part);
+    if (value == nullptr) continue;
+    value->KeepRoomFor(kCompactNumber);
+    static_cast<QWidget&>(pair).layout()->setSpacing(kCompactGap);
+  }
+}
+
+// Small buttons and boxes, close together.
+void Tighten(QWidget& holder) {
+  if (QLayout* layout = holder.layout()) layout->setSpacing(layout->spacing() * kCompactGap / kGap);
+  for (QObject* child : holder.children()) {
+    if (auto* button = dynamic_cast<PushButtonWidget*>(child)) button->BeCompact();
+    if (auto* box = dynamic_cast<TextWidget*>(child)) box->BeCompact();
+    TightenPair(*child);
+  }
+}
+
 bool AnyStretches(const std::vector<LayoutItem>& items) {
   return std::any_of(items.begin(), items.end(), [](const LayoutItem& item) { return item.stretches; });
 }
@@ -82,9 +113,10 @@ QWidget* LayoutBuilder::Build(const Window& window, QWidget* parent) {
   const LayoutItem& layout = window.layout();
   const bool isDeclared = !layout.items.empty() || !layout.controls.empty();
   auto* around = WithoutMargins(new QVBoxLayout(content));
-  around->setContentsMargins(6, 6, 6, 6);
+  around->setContentsMargins(kFrameMargin, kFrameMargin, kFrameMargin, kFrameMargin);
   if (QWidget* menus = MakeMenus(window, content)) around->addWidget(menus);
   around->addWidget(isDeclared ? Make(layout, content) : MakeFlow(window.controls(), content), 1);
+  grids_.Align(0, kPanelRoom);
   return content;
 }
 
@@ -102,25 +134,38 @@ QWidget* LayoutBuilder::MakeMenus(const Window& window, QWidget* parent) {
   return holder;
 }
 
+// A picture scrolls either way, controls only up and down.
 QWidget* LayoutBuilder::MakeScrolling(const LayoutItem& item, QWidget* parent) {
   auto* area = new QScrollArea(parent);
   area->setFrameShape(QFrame::NoFrame);
-  area->setWidgetResizable(true);
   area->setFocusPolicy(Qt::NoFocus);
-  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   LayoutItem content = item;
   content.scrolls = false;
+  const std::size_t outer = grids_.count();
   area->setWidget(Make(content, area));
-  area->setFixedWidth(area->widget()->sizeHint().width() + area->verticalScrollBar()->sizeHint().width() +
-                      kGap);
+  if (item.kind == LayoutKind::Single) {
+    area->setMinimumSize(kLeastScrolled, kLeastScrolled);
+    return area;
+  }
+  grids_.Align(outer, 0);
+  if (QLayout* layout = area->widget()->layout()) layout->setContentsMargins(0, 0, kGap, 0);
+  area->setWidgetResizable(true);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setFixedWidth(area->widget()->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
   return area;
 }
 
 QWidget* LayoutBuilder::Make(const LayoutItem& item, QWidget* parent) {
   if (item.scrolls) return MakeScrolling(item, parent);
+  QWidget* made = MakeByKind(item, parent);
+  if (item.isCompact) Tighten(*made);
+  return made;
+}
+
+QWidget* LayoutBuilder::MakeByKind(const LayoutItem& item, QWidget* parent) {
   switch (item.kind) {
     case LayoutKind::Column:
-      return MakeColumn(item.items, new QWidget(parent));
+      return item.controls.empty() ? MakeColumn(item.items, new QWidget(parent)) : MakeHeaded(item, parent);
     case LayoutKind::Row:
       return MakeRow(item, parent);
     case LayoutKind::Frame:
@@ -129,6 +174,8 @@ QWidget* LayoutBuilder::Make(const LayoutItem& item, QWidget* parent) {
       return MakeFlow(item.controls, parent);
     case LayoutKind::Pane:
       return MakePane(item, parent);
+    case LayoutKind::Fold:
+      return MakeFold(item, parent);
     case LayoutKind::BarRow:
     case LayoutKind::Single:
       break;
@@ -136,10 +183,39 @@ QWidget* LayoutBuilder::Make(const LayoutItem& item, QWidget* parent) {
   return IsAligned(item) ? MakeStandAlone(item, parent) : MakeControl(*item.controls.at(0), parent);
 }
 
+// Whether it is folded is the person's affair, as a window's place is.
+QWidget* LayoutBuilder::MakeFold(const LayoutItem& item, QWidget* parent) {
+  auto* holder = new QWidget(parent);
+  auto* grid = WithoutMargins(new QGridLayout(holder));
+  auto* triangle = new QToolButton(holder);
+  QWidget* folded = Make(item.items.at(1), holder);
+  triangle->setObjectName("fold");
+  triangle->setAutoRaise(true);
+  triangle->setFixedSize(kTriangle, kTriangle);
+  triangle->setToolTip(ToQt(item.toolTip));
+  triangle->setStatusTip(triangle->toolTip());
+  const auto show = [triangle, folded](bool isOpen) {
+    triangle->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
+    folded->setVisible(isOpen);
+  };
+  triangle->setCheckable(true);
+  QObject::connect(triangle, &QToolButton::toggled, folded, show);
+  show(false);
+  grid->addWidget(Make(item.items.at(0), holder), 0, 0);
+  grid->addWidget(triangle, 0, 1, Qt::AlignTop);
+  grid->addWidget(folded, 1, 0, 1, 2);
+  grid->setColumnStretch(0, 1);
+  return holder;
+}
+
 // One grid for the whole column, so that bars and boxes align though other things stand between them.
 QWidget* LayoutBuilder::MakeColumn(const std::vector<LayoutItem>& items, QWidget* column) {
   auto* grid = WithoutMargins(new QGridLayout(column));
-  if (qobject_cast<QGroupBox*>(column) != nullptr) grid->setContentsMargins(6, 6, 6, 6);
+  const int inset = inset_;
+  if (qobject_cast<QGroupBox*>(column) != nullptr) {
+    grid->setContentsMargins(kFrameMargin, kFrameMargin, kFrameMargin, kFrameMargin);
+    inset_ += kFrameMargin + column->contentsMargins().left();
+  }
   const int columns = ColumnsOf(items);
   grid->setColumnStretch(kBarColumn, 1);
   int row = 0;
@@ -153,6 +229,8 @@ QWidget* LayoutBuilder::MakeColumn(const std::vector<LayoutItem>& items, QWidget
     grid->setRowStretch(row++, item.stretches ? 1 : 0);
   }
   if (!AnyStretches(items)) grid->setRowStretch(row, 1);
+  if (!isSideBySide_ && std::any_of(items.begin(), items.end(), IsAligned)) grids_.Add(*grid, inset_);
+  inset_ = inset;
   return column;
 }
 
@@ -196,11 +274,22 @@ QWidget* LayoutBuilder::MakeRow(const LayoutItem& item, QWidget* parent) {
     return row;
   }
   auto* layout = WithoutMargins(new QHBoxLayout(row));
+  const bool wasSideBySide = std::exchange(isSideBySide_, true);
   for (const LayoutItem& part : item.items) {
     QWidget* made = part.isUpright ? MakeControl(*part.controls[0], row, Qt::Vertical) : Make(part, row);
     layout->addWidget(made, part.stretches ? 1 : 0);
   }
+  isSideBySide_ = wasSideBySide;
   return row;
+}
+
+QWidget* LayoutBuilder::MakeHeaded(const LayoutItem& item, QWidget* parent) {
+  QWidget* column = MakeColumn({Single(*item.controls[0]), item.items.at(0)}, new QWidget(parent));
+  std::vector<QWidget*> columns;
+  for (const LayoutItem& part : item.items[0].items)
+    columns.push_back(views_.at(part.controls.at(0))->widget());
+  if (auto* heading = dynamic_cast<LabelWidget*>(views_.at(item.controls[0]))) heading->StandAbove(columns);
+  return column;
 }
 
 // A title that is wider than a tool window becomes text that wraps, above an untitled box.

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "controls/window.h"
+#include "desktop/bar_grids.h"
 #include "desktop/control_view.h"
 
 namespace pelorium {
@@ -25,12 +26,15 @@ class LayoutBuilder {
 
  private:
   QWidget* Make(const LayoutItem& item, QWidget* parent);
+  QWidget* MakeByKind(const LayoutItem& item, QWidget* parent);
   QWidget* MakeMenus(const Window& window, QWidget* parent);
   QWidget* MakeColumn(const std::vector<LayoutItem>& items, QWidget* column);
   QWidget* MakeRow(const LayoutItem& item, QWidget* parent);
   QWidget* MakeFrame(const LayoutItem& item, QWidget* parent);
   QWidget* MakeWrappedFrame(const LayoutItem& item, QWidget* parent);
   QWidget* MakeScrolling(const LayoutItem& item, QWidget* parent);
+  QWidget* MakeHeaded(const LayoutItem& item, QWidget* parent);
+  QWidget* MakeFold(const LayoutItem& item, QWidget* parent);
   QWidget* MakePane(const LayoutItem& item, QWidget* parent);
   QWidget* MakeFlow(const std::vector<Control*>& controls, QWidget* parent);
   QWidget* MakeStandAlone(const LayoutItem& item, QWidget* parent);
@@ -41,6 +45,10 @@ class LayoutBuilder {
   Dispatcher& dispatcher_;
   ViewMap& views_;
   MenuActions& menus_;
+
+  BarGrids grids_;  // of the window that is being built
+  int inset_ = 0;
+  bool isSideBySide_ = false;
 };
 
 }  // namespace pelorium

@@ -1,11 +1,14 @@
 // The desktop program.
 #include <QApplication>
+#include <QFile>
+#include <QTimer>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <string_view>
+#include <vector>
 
 #include "desktop/appearance.h"
 #include "desktop/session.h"
@@ -16,6 +19,14 @@ namespace {
 bool IsSet(const char* variable) {
   const char* value = std::getenv(variable);
   return value != nullptr && *value != '\0';
+}
+
+// The files that a file manager or a person named.
+std::vector<std::filesystem::path> GivenFiles() {
+  std::vector<std::filesystem::path> files;
+  for (const QString& name : QApplication::arguments().mid(1))
+    files.push_back(std::filesystem::absolute(QFile::encodeName(name).toStdString()));
+  return files;
 }
 
 }  // namespace
@@ -46,6 +57,7 @@ int main(int argc, char** argv) {
     pelorium::Session session(pelorium::Journal::FromEnvironment(), folder);
     session.face().Begin();
     if (session.app().exitRequested) return 0;
+    QTimer::singleShot(0, &application, [&session] { session.OpenGiven(GivenFiles()); });
     return QApplication::exec();
   } catch (const std::exception& fault) {
     std::fprintf(stderr, "pelorium: %s\n", fault.what());

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QResizeEvent>
+#include <QScreen>
 #include <QTabBar>
 #include <algorithm>
 
@@ -37,6 +38,8 @@ PanelArea::PanelArea(QWidget* parent)
   for (PanelColumn* column : {&options_, &tools_}) {
     column->onFloat = [this](WindowView& view) { Float(view); };
   }
+  connect(
+      qGuiApp, &QGuiApplication::screenRemoved, this, [this] { BringIntoSight(); }, Qt::QueuedConnection);
   setChildrenCollapsible(false);
   left_.setChildrenCollapsible(false);
   PutInOrder();
@@ -114,6 +117,16 @@ void PanelArea::PutBack(WindowView& view) {
   view.Content().setParent(nullptr);
   panel->deleteLater();
   if (wasOpen) Open(view);
+}
+
+// A screen went away, and panels may have stood on it.
+void PanelArea::BringIntoSight() {
+  for (const auto& [view, panel] : floating_) {
+    if (QGuiApplication::screenAt(panel->geometry().center()) != nullptr) continue;
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    panel->resize(panel->size().boundedTo(room.size()));
+    panel->move(room.center() - panel->rect().center());
+  }
 }
 
 void PanelArea::PutInOrder() {

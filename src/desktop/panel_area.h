@@ -41,6 +41,7 @@ class PanelArea : public QSplitter {
   void OpenPage(WindowView& view);
   void Float(WindowView& view);
   void PutBack(WindowView& view);
+  void BringIntoSight();
   void PlaceColumns();
   void HideEmptyColumns();
 

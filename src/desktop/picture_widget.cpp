@@ -16,7 +16,7 @@ namespace pelorium {
 namespace {
 
 constexpr QSize kLeastFollowingSize(160, 120);
-constexpr QSize kLeastPane(320, 240);
+constexpr QSize kLeastPane(320, 160);
 
 QColor ToQt(Colour colour) { return {Red(colour), Green(colour), Blue(colour)}; }
 
@@ -223,7 +223,8 @@ void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void PictureWidget::resizeEvent(QResizeEvent*) {
   if (!box_.followsWindow) return;
-  if (size() == QSize(box_.measures().PixelWidth(), box_.measures().PixelHeight())) {
+  const QSize told(box_.measures().PixelWidth(), box_.measures().PixelHeight());
+  if (size() == told && box_.isOnScreen) {
     dispatcher_.DropPending(pendingResize_);
     return;
   }
@@ -235,6 +236,7 @@ UserEvent PictureWidget::TakeResize() {
   UserEvent event = EventFor(box_, UserAction::Resize);
   event.width = width();
   event.height = height();
+  event.onScreen = true;
   return event;
 }
 

@@ -29,4 +29,10 @@ void Session::Open(const std::filesystem::path& path) {
   platform_.ForgetAnswer();
 }
 
+void Session::OpenGiven(const std::vector<std::filesystem::path>& paths) {
+  if (paths.empty()) return;
+  if (!app_.started) face_.splash().GoOn();
+  for (const std::filesystem::path& path : paths) Open(path);
+}
+
 }  // namespace pelorium

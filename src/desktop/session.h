@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 #include "desktop/dispatcher.h"
 #include "desktop/face.h"
@@ -20,6 +21,8 @@ class Session {
   Face& face() { return face_; }
   // Opens a file by its kind, as a person would by hand.
   void Open(const std::filesystem::path& path);
+  // The files that the program was started with: the frame comes by itself.
+  void OpenGiven(const std::vector<std::filesystem::path>& paths);
 
  private:
   Journal journal_;

@@ -15,6 +15,8 @@ class SplashWindow : public QWidget {
   SplashWindow(Window& window, LayoutBuilder& builder, const ViewMap& views, Dispatcher& dispatcher);
 
   void Sync();
+  // As a key does.
+  void GoOn() { PressControlOf(this, {}); }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -20,11 +20,15 @@ class TextWidget : public QLineEdit, public ControlView, private PendingInput {
   void Sync() override;
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
+  // For rows of many short numbers.
+  void BeCompact() { digitsInSight_ = kCompactDigits; }
 
  protected:
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  static constexpr int kCompactDigits = 4;
+
   UserEvent TakeEvent() override;
   void ShowGround();
   void OnTyped();

@@ -91,6 +91,9 @@ int SideOf(const std::string& word, const char* what) {
 void ReadResize(UserEvent& event, std::span<const std::string> words) {
   event.width = SideOf(words[0], "width");
   event.height = SideOf(words[1], "height");
+  if (words.size() < 3) return;
+  if (words[2] != "screen") throw ScriptError("a size may end with screen, not " + words[2]);
+  event.onScreen = true;
 }
 
 struct Verb {
@@ -110,7 +113,7 @@ constexpr Verb kVerbs[] = {
     {"mouse", UserAction::MouseMove, "PICTURE down|move|up X Y [left|right] [shift] [ctrl] [alt]", 3, 7,
      ReadMouse},
     {"wheel", UserAction::Wheel, "PICTURE STEPS X Y [shift] [ctrl]", 3, 5, ReadWheel},
-    {"resize", UserAction::Resize, "PICTURE W H", 2, 2, ReadResize},
+    {"resize", UserAction::Resize, "PICTURE W H [screen]", 2, 3, ReadResize},
 };
 
 const Verb* FindVerb(std::string_view name) {

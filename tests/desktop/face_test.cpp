@@ -73,7 +73,7 @@ TEST_F(SplashTest, AClickBringsTheFrame) {
   const QWidget& picture = Shown<QWidget>("Form36.Picture1");
   EXPECT_EQ(NewJournalLines(),
             (Lines{"press frmSplash.Picture1", "resize Form36.Picture1 " + std::to_string(picture.width()) +
-                                                   " " + std::to_string(picture.height())}));
+                                                   " " + std::to_string(picture.height()) + " screen"}));
 }
 
 TEST_F(SplashTest, AKeyGoesOnToo) {

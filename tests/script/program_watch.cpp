@@ -63,7 +63,8 @@ std::string SumOf(std::string_view text) {
 std::string Shown(const PropertyValue& value) {
   if (const double* number = std::get_if<double>(&value)) return RoundedForm(*number + 0.0, 4);
   const std::string& text = std::get<std::string>(value);
-  if (text.size() <= kLongestText) return Quoted(text);
+  const bool isPath = text.starts_with('/');  // its folder is masked later
+  if (text.size() <= kLongestText || isPath) return Quoted(text);
   return Quoted(text.substr(0, kLongestText / 4)) + ".. " + std::to_string(text.size()) + " bytes " +
          SumOf(text);
 }
@@ -425,7 +426,7 @@ void ProgramWatch::CompareFiles(Lines& lines) {
 }
 
 std::string LayoutLines(const LayoutItem& item, int depth) {
-  constexpr const char* kKinds[] = {"Column", "Row", "Frame", "BarRow", "Flow", "Single", "Pane"};
+  constexpr const char* kKinds[] = {"Column", "Row", "Frame", "BarRow", "Flow", "Single", "Pane", "Fold"};
   std::string lines(static_cast<std::size_t>(2 * depth), ' ');
   lines += kKinds[static_cast<int>(item.kind)];
   if (!item.title.empty()) lines += " " + Quoted(item.title);
@@ -433,6 +434,7 @@ std::string LayoutLines(const LayoutItem& item, int depth) {
   if (item.stretches) lines += " stretches";
   if (item.isUpright) lines += " upright";
   if (item.scrolls) lines += " scrolls";
+  if (item.isCompact) lines += " compact";
   for (const Control* control : item.controls) lines += " " + control->name();
   lines += "\n";
   for (const LayoutItem& inner : item.items) lines += LayoutLines(inner, depth + 1);

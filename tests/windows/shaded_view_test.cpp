@@ -14,9 +14,9 @@
 namespace pelorium {
 namespace {
 
-constexpr int kDrawn = 0x0000AA, kGround = 0x404040;
+constexpr int kDrawn = 0x0000AA, kCorner = 0x00BB00, kGround = 0x404040;
 
-// Paints all pixels in one colour, and counts.
+// Paints all pixels in one colour, the lowest left one in another, and counts.
 class FakeSurface : public GlSurface {
  public:
   struct Log {
@@ -34,6 +34,7 @@ class FakeSurface : public GlSurface {
   }
   void ReadBack(std::uint32_t* pixels, int width, int height) override {
     std::fill_n(pixels, width * height, kDrawn);
+    pixels[width * (height - 1)] = kCorner;
   }
 
  private:
@@ -75,6 +76,30 @@ class ShadedWindow : public AppTest {
 
   FakeSurface::Log log;
 };
+
+TEST_F(ShadedWindow, OnAScreenTheSquareFillsTheSmallerSideInTheMiddle) {
+  const Picture& shown = app.view->form36.Picture1.measures();
+  UserEvent resize{"Form36", "Picture1", UserAction::Resize};
+  const auto resizeTo = [&](int width, int height) {
+    resize.width = width, resize.height = height;
+    app.Deliver(resize);
+    return shown.PixelAt(0, 0);  // someone looks
+  };
+  app.view->form51.Command2.Press();
+  resizeTo(300, 200);
+  EXPECT_TRUE(HasCall("Viewport 0 0 637 637"));
+  resize.onScreen = true;
+  resizeTo(300, 200);
+  EXPECT_TRUE(HasCall("Viewport 0 0 200 200"));
+  EXPECT_EQ(shown.PixelAt(50, 199), kCorner);
+  resizeTo(200, 301);
+  EXPECT_TRUE(HasCall("Viewport 0 0 200 200"));
+  EXPECT_EQ(shown.PixelAt(0, 249), kCorner);
+  UserEvent drag{"Form51", "HScroll1", UserAction::Drag, 150};
+  app.Deliver(drag);
+  EXPECT_EQ(shown.PixelAt(0, 300), kCorner);
+  EXPECT_TRUE(HasCall("Viewport 0 0 150 150"));
+}
 
 TEST_F(ShadedWindow, EachEventRendersOnceAndOnlyWhenLookedAt) {
   EXPECT_EQ(app.shadedPose.RotX, 245);

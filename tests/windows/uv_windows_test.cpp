@@ -77,6 +77,8 @@ TEST_F(UvWindows, TheOtherWindowAsksFirst) {
   const auto dialogs = platform.TakeDialogs();
   EXPECT_TRUE(dialogs.at(0).save && !dialogs.at(1).save);
   EXPECT_EQ(dialogs.at(1).folder, folder() / "uvmapperclassicuvs");
+  uv.Command26.Press();
+  EXPECT_EQ(platform.TakeDialogs().at(0).proposedName, "old.obj");
   EXPECT_TRUE(app.faults.TakeAll().empty());
 }
 

@@ -342,16 +342,17 @@ void EditByFace::SavePicture() {
 
 // One narrow column: the view stays in sight.
 LayoutItem EditByFace::DeclareLayout() {
-  std::vector<LayoutItem> face = {BarRow(VScroll2, {&Label3}), Flow({&Check1, &Check2}), Single(FaceHeader),
-                                  Row({Single(Text5), Single(Text6), Single(Text7), Single(Text8)})};
+  std::vector<LayoutItem> face = {
+      BarRow(VScroll2, {&Label3}), Flow({&Check1, &Check2}),
+      Headed(FaceHeader, Row({Single(Text5), Single(Text6), Single(Text7), Single(Text8)}))};
   for (std::size_t i = 0; i < 3; ++i) {
     TextBox* const* place = &placeBoxes_[3 * i];
     face.push_back(Row({Single(*cornerLabels_[i]), Single(*place[0]), Single(*place[1]), Single(*place[2])}));
   }
   return Column({
-      Frame(Frame2, {BarRow(VScroll1, {&Label4}), Single(PointHeader),
-                     Row({Single(Text1), Single(Text2), Single(Text3), Single(Text4)}), BarRow(HScroll1),
-                     Flow({&Command23, &Command24, &Command25})}),
+      Frame(Frame2, {BarRow(VScroll1, {&Label4}),
+                     Headed(PointHeader, Row({Single(Text1), Single(Text2), Single(Text3), Single(Text4)})),
+                     BarRow(HScroll1), Flow({&Command23, &Command24, &Command25})}),
       Frame(Frame3, std::move(face)),
       Frame("Face Line Lengths",
             {Row({Labelled("1-2", Label8), Labelled("2-3", Label9), Labelled("3-1", Label13)})}),

@@ -291,7 +291,7 @@ LayoutItem Unfold::DeclareLayout() {
                      Flow({&Command18, &Command19, &Command20, &Command17, &Command21, &Command22})}),
       Frame("Range", {BarRow(HScroll2), BarRow(HScroll1)}),
       Row({Frame("Face on/off", {Flow({&Command24})}), Frame("Range on/off", {Flow({&Command25})})}),
-      Frame("Pattern", {Row({Labelled("mm per unit", Text7), Single(List1)}),
+      Frame("Pattern", {Labelled("mm per unit", Text7), Single(List1),
                         Row({Single(Check3), Single(Text8), Single(Check4)}), Flow({&Command26})}),
   });
 }

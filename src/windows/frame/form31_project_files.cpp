@@ -55,11 +55,10 @@ Form31::Form31(App& app) : ToolWindow(app, "Form31", "Save /Open Project ") {
 LayoutItem Form31::DeclareLayout() {
   return Column({
       Frame("Project", {Flow({&Command15, &Command14, &Command13, &Command12, &Command11, &Command9})}),
-      Row({Frame("File to write",
-                 {Labelled("Name", Text1), Row({Single(Dir1), Single(File1)}),
-                  Flow({&Command5, &Command6, &Command8}), Flow({&Check1, &Check2, &Command1})}),
-           Frame("File to read", {Labelled("Name", Text2), Row({Single(Dir2), Single(File2)}),
-                                  Flow({&Command7, &Command3, &Command4})})}),
+      Frame("File to write", {Labelled("Name", Text1), Row({Single(Dir1), Single(File1)}),
+                              Flow({&Command5, &Command6, &Command8}), Flow({&Check1, &Check2, &Command1})}),
+      Frame("File to read", {Labelled("Name", Text2), Row({Single(Dir2), Single(File2)}),
+                             Flow({&Command7, &Command3, &Command4})}),
   });
 }
 
@@ -129,7 +128,9 @@ void Form31::ShowEstimatedArea() {
 }
 
 void Form31::Command5_Click() {
-  ExportFile(app_, Text1.text(), [this](TextWriter& out) { WriteProfilePositions(app_.model, out); });
+  ExportFile(
+      app_, Text1.text(), [this](TextWriter& out) { WriteProfilePositions(app_.model, out); },
+      OldFile::IsKept);
 }
 
 void Form31::OpenPositions(const TextBox& name) {
@@ -142,16 +143,18 @@ void Form31::OpenPositions(const TextBox& name) {
 }
 
 void Form31::Command8_Click() {
-  ExportFile(app_, Text1.text(),
-             [this](TextWriter& out) { WriteSeparateFaces(app_.model, CurrentPart(app_), out); });
+  ExportFile(
+      app_, Text1.text(), [this](TextWriter& out) { WriteSeparateFaces(app_.model, CurrentPart(app_), out); },
+      OldFile::IsKept);
 }
 
 void Form31::Command1_Click() {
   if (!Check1.value() && !Check2.value()) return;
-  ExportFile(app_, Text1.text(), [this](TextWriter& out) {
+  const auto write = [this](TextWriter& out) {
     if (Check1.value()) WriteTextPart(app_.model, CurrentPart(app_), out);
     if (Check2.value()) WriteSeparateFaces(app_.model, CurrentPart(app_), out);
-  });
+  };
+  ExportFile(app_, Text1.text(), write, OldFile::IsKept);
 }
 
 void Form31::ImportPart(void (*read)(ModelStore&, int, std::string_view)) {

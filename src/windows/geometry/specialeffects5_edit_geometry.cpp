@@ -208,10 +208,11 @@ std::vector<LayoutItem> SpecialEffects5::DragFrames() {
             {Flow({&Option7, &Option8, &Option9, &Option10, &Option11}),
              Row({Single(Picture1), Column({Frame("Mirror", {Flow({&Command12, &Command13, &Command14})}),
                                             Frame("Step", {Flow({&Command15, &Command16, &Command17})})})})}),
-      Row({Frame("Rotate", {Single(Picture2)}), Frame("Scale", {Single(Picture3)}),
-           Frame("Move Origin", {Single(Picture4)})}),
-      Row({Frame("Pick pts", {Single(Picture5)}),
-           Column({Frame("Area Select Options", {Flow({&Option2, &Option3})}), Flow({&Command18})})}),
+      Compact(Row({Frame("Rotate", {Single(Picture2)}), Frame("Scale", {Single(Picture3)}),
+                   Frame("Move Origin", {Single(Picture4)})})),
+      Compact(
+          Row({Frame("Pick pts", {Single(Picture5)}),
+               Column({Frame("Area Select Options", {Flow({&Option2, &Option3})}), Flow({&Command18})})})),
       Frame("Pick Points Area Size", {BarRow(HScroll2), BarRow(HScroll6)}),
   };
 }

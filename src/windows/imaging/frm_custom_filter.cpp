@@ -54,7 +54,7 @@ LayoutItem FrmCustomFilter::DeclareLayout() {
     for (int column = 0; column < kFilterGridSide; ++column) {
       cells.push_back(Single(*txtValue[static_cast<std::size_t>(row * kFilterGridSide + column)]));
     }
-    rows.push_back(Row(std::move(cells)));
+    rows.push_back(Compact(Row(std::move(cells))));
   }
   rows.push_back(Row({Labelled("Weight:", txtWeight), Single(chkAuto)}));
   rows.push_back(Labelled("Name:", cboName));

@@ -18,7 +18,7 @@ FrmPerlinNoise::FrmPerlinNoise(App& app) : ToolWindow(app, "frmPerlinNoise", "No
   Command1.onClick = [this](const Click&) { app_.platform.SetClipboardPicture(Picture1.picture()); };
   SetLayout(Row({Column({BarRow(HScroll2), BarRow(HScroll1), BarRow(hscScale), BarRow(hscOctaves),
                          Flow({&chkAbsolute}), Flow({&Command2, &Command1}), Single(ProgressBar1)}),
-                 Stretching(Single(Picture1))}));
+                 Stretching(Scrolling(Single(Picture1)))}));
 }
 
 void FrmPerlinNoise::MakeNoise() {

@@ -174,8 +174,8 @@ LayoutItem SpecialEffects3::DeclareLayout() {
   column.push_back(BarRow(HScroll1));
   column.push_back(Flow({&Command1, &Command5, &Command4, &Command6}));
   column.push_back(Single(ProgressBar2));
-  column.push_back(Frame("Load/Save pictue", {Flow(std::move(numbers))}));
-  return Row({Column(std::move(column)), Stretching(Single(Picture1))});
+  column.push_back(Frame("Load/Save pictue", {Compact(Flow(std::move(numbers)))}));
+  return Row({Scrolling(Column(std::move(column))), Stretching(Scrolling(Single(Picture1)))});
 }
 
 void SpecialEffects3::Change(const Control& control, const std::function<void(Picture&)>& change) {

@@ -346,7 +346,7 @@ void Texture::MakeLayout() {
   for (const auto& button : buttons_) presses.push_back(button.get());
   LayoutItem images = Column({Pane({&Picture1, &Picture5}), BarRow(HScroll22), BarRow(HScroll35, {&Label32}),
                               BarRow(VScroll2), Single(ProgressBar1)});
-  SetLayout(Column({Flow(std::move(brushes)), Flow(std::move(presses)),
+  SetLayout(Column({Flow(std::move(brushes)), Compact(Flow(std::move(presses))),
                     Stretching(Row({SettingsColumn(), Stretching(std::move(images)), Upright(VScroll1)}))}));
 }
 

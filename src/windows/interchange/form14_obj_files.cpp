@@ -60,8 +60,8 @@ void Form14::BindUvButtons() {
   onModel(uvs.Command3, kUvsFormat);
   onModel(Command7, kObjFormat);
   onModel(Command16, kObjFormatOf3);
-  OnFile(uvs.Command4, [this] { ExportUvs(app_, Text13.text()); });
-  OnFile(uvs.Command5, [this] { ExportTopViewAsUvs(app_, Text13.text()); });
+  OnFile(uvs.Command4, [this] { ExportUvs(app_, Text13.text(), OldFile::IsKept); });
+  OnFile(uvs.Command5, [this] { ExportTopViewAsUvs(app_, Text13.text(), OldFile::IsKept); });
 }
 
 // Only the file of the UV mapper gives the Part its name.

@@ -44,8 +44,7 @@ GridExportSettings LegacyExports::ReadSettings(bool withGroups, bool withCaps) c
 
 void LegacyExports::ExportCells(CellFaces faces, bool withGroups, bool withCaps) {
   const GridExportSettings settings = ReadSettings(withGroups, withCaps);
-  ExportFile(app_, file_.text(),
-             [&](TextWriter& out) { WriteSeparateCells(app_.model, settings, faces, out); });
+  Write([&](TextWriter& out) { WriteSeparateCells(app_.model, settings, faces, out); });
 }
 
 void LegacyExports::ExportBackward() {
@@ -54,13 +53,15 @@ void LegacyExports::ExportBackward() {
 }
 
 void LegacyExports::ExportNothing() {
-  ExportFile(app_, file_.text(), [](TextWriter&) {});
+  Write([](TextWriter&) {});
 }
 
 void LegacyExports::ExportJoined() {
   RoundProfilePoints(app_.model, 3);
   const GridExportSettings settings = ReadSettings(true, false);
-  ExportFile(app_, file_.text(), [&](TextWriter& out) { WriteJoinedCells(app_.model, settings, out); });
+  Write([&](TextWriter& out) { WriteJoinedCells(app_.model, settings, out); });
 }
+
+void LegacyExports::Write(const FileWriter& write) { ExportFile(app_, file_.text(), write, OldFile::IsKept); }
 
 }  // namespace pelorium

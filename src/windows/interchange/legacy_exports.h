@@ -1,6 +1,7 @@
 // The first exports, of the profiles as a grid: hidden buttons that scripts press, the same in two windows.
 #pragma once
 
+#include "base/files.h"
 #include "controls/buttons.h"
 #include "controls/text_box.h"
 #include "interchange/legacy_obj_export.h"
@@ -46,6 +47,7 @@ class LegacyExports {
   void ExportBackward();
   void ExportPoints() { ExportCells(CellFaces::None, false, false); }
   void ExportNothing();
+  void Write(const FileWriter& write);
   void ExportJoined();
 };
 

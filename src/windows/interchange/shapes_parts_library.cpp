@@ -91,18 +91,15 @@ void PartsLibrary::BindParts() {
     Command6.Press();
   });
   OnFile(Command8, [this] {
-    ExportFile(app_, Text11.text(), [this](TextWriter& out) {
+    Save([this](TextWriter& out) {
       WriteObjPart(app_.model, CurrentPart(app_), CurrentPart(app_), Check1.value(), out);
     });
   });
   OnFile(Command7, [this] {
-    ExportFile(app_, Text11.text(),
-               [this](TextWriter& out) { WriteObjPart(app_.model, 0, kUserParts - 1, Check1.value(), out); });
+    Save([this](TextWriter& out) { WriteObjPart(app_.model, 0, kUserParts - 1, Check1.value(), out); });
   });
-  OnFile(Command21, [this] {
-    ExportFile(app_, Text11.text(),
-               [this](TextWriter& out) { WriteTextPart(app_.model, HScroll2.value(), out); });
-  });
+  OnFile(Command21,
+         [this] { Save([this](TextWriter& out) { WriteTextPart(app_.model, HScroll2.value(), out); }); });
   OnFile(Command22, [this] { ImportText(); });
   OnEdit(Command9, [this] {
     ChoosePart();
@@ -133,6 +130,8 @@ void PartsLibrary::ChooseFolder(const std::filesystem::path& folder) {
 void PartsLibrary::NameFile() { Text11.SetText((File1.folder() / Text14.text()).string()); }
 
 std::filesystem::path PartsLibrary::File() const { return FileNamed(app_, Text11.text()); }
+
+void PartsLibrary::Save(const FileWriter& write) { ExportFile(app_, Text11.text(), write, OldFile::IsKept); }
 
 void PartsLibrary::ChoosePart() { app_.view->form51.HScroll4.SetValue(HScroll2.value()); }
 

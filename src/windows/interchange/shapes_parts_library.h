@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "base/files.h"
 #include "controls/boxed_bar.h"
 #include "controls/buttons.h"
 #include "controls/lists.h"
@@ -79,6 +80,7 @@ class PartsLibrary : public ToolWindow {
   void ChooseFolder(const std::filesystem::path& folder);
   void NameFile();
   std::filesystem::path File() const;
+  void Save(const FileWriter& write);
   // The Part that the window works on becomes the current one.
   void ChoosePart();
   void Center();

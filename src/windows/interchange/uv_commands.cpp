@@ -54,12 +54,14 @@ void ImportUvsAsModel(App& app, const std::filesystem::path& name, const UvForma
   FinishImport(app, name);
 }
 
-void ExportUvs(App& app, const std::filesystem::path& name) {
-  ExportFile(app, name, [&app](TextWriter& out) { WriteUvs(app.model, CurrentPart(app), out); });
+void ExportUvs(App& app, const std::filesystem::path& name, OldFile old) {
+  ExportFile(
+      app, name, [&app](TextWriter& out) { WriteUvs(app.model, CurrentPart(app), out); }, old);
 }
 
-void ExportTopViewAsUvs(App& app, const std::filesystem::path& name) {
-  ExportFile(app, name, [&app](TextWriter& out) { WriteTopViewAsUvs(app.model, CurrentPart(app), out); });
+void ExportTopViewAsUvs(App& app, const std::filesystem::path& name, OldFile old) {
+  ExportFile(
+      app, name, [&app](TextWriter& out) { WriteTopViewAsUvs(app.model, CurrentPart(app), out); }, old);
 }
 
 }  // namespace pelorium

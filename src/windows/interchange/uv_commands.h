@@ -7,6 +7,7 @@
 
 #include "base/line_reader.h"
 #include "interchange/uv_lines.h"
+#include "windows/shell/file_names.h"
 
 namespace pelorium {
 
@@ -31,7 +32,7 @@ void ImportUvs(App& app, const std::filesystem::path& name, const UvFormat& form
 void ImportUvsAsModel(App& app, const std::filesystem::path& name, const UvFormat& format, double scale);
 
 // The mapping of the current Part, and its top view as one, into a file of the UV mapper.
-void ExportUvs(App& app, const std::filesystem::path& name);
-void ExportTopViewAsUvs(App& app, const std::filesystem::path& name);
+void ExportUvs(App& app, const std::filesystem::path& name, OldFile old);
+void ExportTopViewAsUvs(App& app, const std::filesystem::path& name, OldFile old);
 
 }  // namespace pelorium

@@ -70,10 +70,10 @@ void UvImportExport::BindUvButtons() {
     Label1.SetCaption(ImportedCounts(app_));
   });
   OnFile(uvs.Command4, [this] {
-    if (AskUvsName(true)) ExportUvs(app_, Text13.text());
+    if (AskUvsName(true)) ExportUvs(app_, Text13.text(), OldFile::IsReplaced);
   });
   OnFile(uvs.Command5, [this] {
-    if (AskUvsName(true)) ExportTopViewAsUvs(app_, Text13.text());
+    if (AskUvsName(true)) ExportTopViewAsUvs(app_, Text13.text(), OldFile::IsReplaced);
   });
 }
 

@@ -67,7 +67,10 @@ bool DeliverTo(Control& control, const UserEvent& event) {
       return On<TextBox>(control, [&](TextBox& box) { box.Type(event.text); }) ||
              On<ComboBox>(control, [&](ComboBox& box) { box.Type(event.text); });
     case UserAction::Resize:
-      return On<PictureBox>(control, [&](PictureBox& box) { box.Resize(event.width, event.height); });
+      return On<PictureBox>(control, [&](PictureBox& box) {
+        box.isOnScreen = event.onScreen;
+        box.Resize(event.width, event.height);
+      });
     case UserAction::MouseDown:
     case UserAction::MouseMove:
     case UserAction::MouseUp:

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -84,6 +85,9 @@ class App {
   GlOpener openGl = OpenEglSurface;
   bool started = false;  // the load of the main frame is over
   bool exitRequested = false;
+
+  // The file that was chosen last from a dialog, by the folder that its kind starts in.
+  std::map<std::string, std::filesystem::path> lastFiles;
 
   // While a generator, a load, an import or a follow of new counts runs, automatic actions (Auto Revolve and
   // its like) are dropped. Counts the nested ones.

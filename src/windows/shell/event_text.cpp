@@ -63,7 +63,8 @@ std::string ScriptLine(const UserEvent& event) {
       return "wheel " + place + " " + ShortestForm(event.value) + " " + ShortestForm(event.x) + " " +
              ShortestForm(event.y) + ClickWords(event.click, false);
     case UserAction::Resize:
-      return "resize " + place + " " + std::to_string(event.width) + " " + std::to_string(event.height);
+      return "resize " + place + " " + std::to_string(event.width) + " " + std::to_string(event.height) +
+             (event.onScreen ? " screen" : "");
     case UserAction::CloseWindow:
       return "set " + event.window + ".visible 0";
   }

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "graphics/picture_gray.h"
@@ -22,6 +23,8 @@
 namespace pelorium {
 
 namespace {
+
+constexpr char kZoomKeys[] = "-+=f";
 
 // A step of the buttons that turn and move the shaded picture: degrees or model units.
 constexpr double kPoseStep = 15;
@@ -52,12 +55,18 @@ constexpr PoseButton kPoseButtons[] = {
 Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mouse(app) {
   SetRole(WindowRole::Page);
   Picture1.followsWindow = true;
-  Picture1.onMouseDown = [this](const MouseEvent& event) { mouse.Down(event); };
+  Picture1.onMouseDown = [this](const MouseEvent& event) {
+    wasUsed_ = true;
+    mouse.Down(event);
+  };
   Picture1.onMouseMove = [this](const MouseEvent& event) { mouse.Move(event); };
   Picture1.onMouseUp = [this](const MouseEvent&) { mouse.Up(); };
   Picture1.onDraw = [this](Picture& picture) { Paint(picture); };
   Picture1.onResize = [this](int width, int height) { Picture1_Resize(width, height); };
-  Picture1.onWheel = [this](const WheelEvent& wheel) { TurnWheelOverView(app_, wheel); };
+  Picture1.onWheel = [this](const WheelEvent& wheel) {
+    wasUsed_ = true;
+    TurnWheelOverView(app_, wheel);
+  };
   Picture1.panAcross = &HScroll1;
   Picture1.panUp = &VScroll1;
   Picture1.onKey = [this](char character) { Picture1_KeyPress(character); };
@@ -66,7 +75,12 @@ Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mo
   Picture2.picture().backColour = Rgb(0, 0, 0);
   Picture2.picture().Clear();
   noImage_ = Picture2.picture().Revision();
-  for (ScrollBar* pan : {&HScroll1, &VScroll1}) pan->onChange = [this] { RefreshViews(app_); };
+  for (ScrollBar* pan : {&HScroll1, &VScroll1}) {
+    pan->onChange = [this] {
+      wasUsed_ = true;
+      RefreshViews(app_);
+    };
+  }
   Command12.onClick = [this](const Click& click) { ZoomByButton(click); };
   Command16.onClick = [this](const Click&) { app_.view->shadedView->DrawShaded(); };
   for (Control* hidden : std::initializer_list<Control*>{&Command16, &HScroll3}) hidden->SetVisible(false);
@@ -92,20 +106,22 @@ void Form36::MakePoseButtons() {
 LayoutItem Form36::DeclareLayout() {
   std::vector<Control*> row;
   for (const auto& button : commandRow) row.push_back(button.get());
-  std::vector<LayoutItem> totals = {Labelled("totalpoints", Label39), Labelled("total tri faces", Label47),
-                                    Labelled("total tri faces", Label49)};
+  std::vector<Control*> mice = {&Option7,  &Option8, &Option9,   &Option10,
+                                &Option11, &Option1, &Command12, &Home};
   for (std::size_t i = 0; i < poseButtons.size(); ++i) {
-    if (i == 0) totals.push_back(Single(turnLabel));
-    if (i == poseButtons.size() / 2) totals.push_back(Single(moveLabel));
-    totals.push_back(Single(*poseButtons[i]));
+    if (i == 0) mice.push_back(&turnLabel);
+    if (i == poseButtons.size() / 2) mice.push_back(&moveLabel);
+    mice.push_back(poseButtons[i].get());
   }
   return Column({
-      Flow(std::move(row)),
-      Flow({&Option7, &Option8, &Option9, &Option10, &Option11, &Option1, &Command12, &Home}),
-      Row({Single(Label54), Labelled("Layer or Point:", Label16), Labelled("loc x", Label4),
-           Labelled("loc y (or z)", Label5), Labelled("length", Label13)}),
-      Row(std::move(totals)),
-      Row({BarRow(HScroll2), BarRow(VScroll2), Labelled("grey level", Label53)}),
+      Compact(Flow(std::move(row))),
+      Compact(Flow(std::move(mice))),
+      Fold(Compact(Row({Single(Label54), Labelled("Layer or Point:", Label16), Labelled("loc x", Label4),
+                        Labelled("loc y (or z)", Label5), Labelled("length", Label13),
+                        Labelled("totalpoints", Label39), Labelled("total tri faces", Label47),
+                        Labelled("total tri faces", Label49)})),
+           Row({BarRow(HScroll2), BarRow(VScroll2), Labelled("grey level", Label53)}),
+           "where the background image shows, and its grey level"),
       Stretching(Row({Stretching(Single(Picture1)), Upright(VScroll1)})),
       Single(HScroll1),
   });
@@ -116,28 +132,39 @@ void Form36::Load() {
   app_.view->form51.Option1.SetValue(true);
 }
 
-// One unit a pixel. The pan X is half the height, not half the width: a zoom moves both pans by the height's
-// change, and from there the origin stays in sight for two steps either way.
+// One unit a pixel.
 void Form36::ResetView() {
   Picture& picture = Picture1.picture();
   picture.SetScale(picture.PixelWidth(), -picture.PixelHeight());
-  const int half = picture.PixelHeight() / 2;
-  HScroll1.SetValue(HScroll1.Clamped(half));
-  VScroll1.SetValue(VScroll1.Clamped(-half));
+  PlaceOrigin();
+}
+
+// On a screen the origin stands in the middle. Else the pan X is half the height, not half the width: a zoom
+// moves both pans by the height's change, and from there the origin stays in sight for two steps either way.
+void Form36::PlaceOrigin() {
+  const Picture& picture = Picture1.measures();
+  const int halfHeight = picture.PixelHeight() / 2;
+  const bool wasUsed = wasUsed_;
+  HScroll1.SetValue(HScroll1.Clamped(Picture1.isOnScreen ? picture.PixelWidth() / 2 : halfHeight));
+  VScroll1.SetValue(VScroll1.Clamped(-halfHeight));
+  wasUsed_ = wasUsed;
   RefreshViews(app_);  // the pans may stand there already
 }
 
-// Units per pixel and the top left corner stay where they are.
+// Units per pixel stay, and the top left corner; on a screen, while the view is unused, the place of the
+// origin.
 void Form36::Picture1_Resize(int pixelWidth, int pixelHeight) {
   Picture& picture = Picture1.picture();
   const double width = picture.ScaleWidth() * pixelWidth / picture.PixelWidth();
   const double height = picture.ScaleHeight() * pixelHeight / picture.PixelHeight();
   picture.Resize(pixelWidth, pixelHeight);
   picture.SetScale(width, height);
-  app_.started ? RefreshViews(app_) : ResetView();
+  if (!app_.started) return ResetView();
+  Picture1.isOnScreen && !wasUsed_ ? PlaceOrigin() : RefreshViews(app_);
 }
 
 void Form36::ZoomByButton(const Click& click) {
+  wasUsed_ = true;
   Picture& picture = Picture1.picture();
   const double oldHeight = picture.ScaleHeight();
   if (!Zoom(picture, click.IsRight() ? kZoomOut : kZoomIn)) return;
@@ -149,6 +176,7 @@ void Form36::ZoomByButton(const Click& click) {
 
 // m arms Move, and Move Origin when Move is armed already; a letter of an armed mode disarms it.
 void Form36::Picture1_KeyPress(char character) {
+  wasUsed_ = wasUsed_ || std::string_view(kZoomKeys).find(character) != std::string_view::npos;
   switch (character) {
     case 'm':
       return (Option7.value() ? Option11 : Option7).SetValue(true);

@@ -121,11 +121,13 @@ class Form36 : public ToolWindow {
   void Picture1_KeyPress(char character);
   void ChooseViewByKey(char character);
   void ResetView();
+  void PlaceOrigin();
   void MakePoseButtons();
   void MoveBackground();
   LayoutItem DeclareLayout();
 
   Content content_ = Content::Wire;
+  bool wasUsed_ = false;       // zoomed, panned or pressed upon
   std::uint64_t noImage_ = 0;  // revision of Picture2 while it counts as empty
 };
 

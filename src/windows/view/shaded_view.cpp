@@ -30,14 +30,30 @@ class ShadedFrame : public PixelSource {
     }
     recorder.Replay(*gl);
     surface_.ReadBack(pixels, width, height);
+    if (isInMiddle) MoveToMiddle(pixels, width, height);
   }
 
   GlRecorder recorder;
-  Colour blank = 0;  // when the surface cannot be had in that size
+  Colour blank = 0;         // when the surface cannot be had in that size
+  bool isInMiddle = false;  // the square is as large as the smaller side, and stands in the middle
 
  private:
+  static void MoveToMiddle(std::uint32_t* pixels, int width, int height);
+
   GlSurface& surface_;
 };
+
+// The square was drawn at the lower left; around it lies the ground.
+void ShadedFrame::MoveToMiddle(std::uint32_t* pixels, int width, int height) {
+  if (width > height) {
+    const int left = (width - height) / 2;
+    for (std::uint32_t* row = pixels; row != pixels + std::ptrdiff_t{width} * height; row += width)
+      std::rotate(row, row + width - left, row + width);
+  } else {
+    const std::ptrdiff_t up = std::ptrdiff_t{width} * (height - width - (height - width) / 2);
+    std::rotate(pixels, pixels + up, pixels + std::ptrdiff_t{width} * height);
+  }
+}
 
 namespace {
 
@@ -76,8 +92,14 @@ void ShadedView::DrawShaded() {
   view.Redraw(Form36::Content::Shaded);
 }
 
+// On a screen the square fills the view's smaller side, until a person chooses its size.
 void ShadedView::Paint() {
-  const bool isWhole = Draw(viewFrame_, app_.view->form36.Picture1, app_.view->form51.HScroll1.value());
+  PictureBox& view = app_.view->form36.Picture1;
+  const ScrollBar& size = app_.view->form51.HScroll1;
+  const bool fills = view.isOnScreen && !size.movedByPerson;
+  const int side =
+      fills ? std::min(view.measures().PixelWidth(), view.measures().PixelHeight()) : size.value();
+  const bool isWhole = Draw(viewFrame_, view, side, fills);
   if (isWhole && app_.view->form51.visible()) DrawPreview();
 }
 
@@ -86,7 +108,8 @@ void ShadedView::DrawPreview() {
   Draw(previewFrame_, preview, preview.measures().PixelWidth());
 }
 
-bool ShadedView::Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide) {
+bool ShadedView::Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide,
+                      bool isInMiddle) {
   return Trapped(app_.drawingFaults, "DrawShaded", [&] {
     box.picture().Clear();
     box.NotifyChanged();
@@ -96,6 +119,7 @@ bool ShadedView::Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int 
     // A picture that was not looked at yet is replaced anyway, so that its memory serves again.
     if (!frame) frame = std::make_shared<ShadedFrame>(*surface);
     frame->blank = box.picture().backColour;
+    frame->isInMiddle = isInMiddle;
     frame->recorder.Restart();
     box.picture().TakeFrom(frame);
     pelorium::DrawShaded(app_.model, settings, frame->recorder);

@@ -38,8 +38,8 @@ class ShadedView {
 
  private:
   GlSurface* Surface();
-  // False after a fault.
-  bool Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide);
+  // False after a fault. The square stands at the lower left, or in the middle.
+  bool Draw(std::shared_ptr<ShadedFrame>& frame, PictureBox& box, int viewportSide, bool isInMiddle = false);
 
   App& app_;
   int renderContext_ = 0;
