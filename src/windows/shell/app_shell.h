@@ -22,6 +22,7 @@
 
 namespace pelorium {
 
+class History;
 class TextBox;
 class ToolWindow;
 struct FacetoolWindows;
@@ -83,6 +84,7 @@ class App {
   // Asked for a place to draw the shaded picture on when one is first needed.
   GlOpener openGl = OpenEglSurface;
   bool started = false;  // the load of the main frame is over
+  const std::shared_ptr<History> history;
   bool exitRequested = false;
 
   // While a generator, a load, an import or a follow of new counts runs, automatic actions (Auto Revolve and
@@ -125,6 +127,9 @@ class App {
   std::shared_ptr<InterchangeWindows> interchange;
   std::shared_ptr<FrameWindows> frame;
 };
+
+// The tables to be read, which leaves no mark on them.
+inline const ModelStore& ReadModel(const App& app) { return app.model; }
 
 // Builds the rooms with their windows: in frame/, which knows them all.
 void BuildWindows(App& app);
