@@ -3,10 +3,8 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cstdint>
-#include <deque>
 #include <numeric>
 #include <utility>
 #include <vector>
@@ -94,9 +92,8 @@ class KeptTable {
   }
 
   void Keep(std::size_t block) {
-    kept_.emplace_back();
-    std::copy_n(records_.begin() + static_cast<std::ptrdiff_t>(block * kBlock), RecordsOf(block),
-                kept_.back().begin());
+    const auto first = records_.begin() + static_cast<std::ptrdiff_t>(block * kBlock);
+    kept_.emplace_back(first, first + static_cast<std::ptrdiff_t>(RecordsOf(block)));
     numbers_.push_back(static_cast<std::uint32_t>(block));
     isKept_[block] = 1;
   }
@@ -105,7 +102,7 @@ class KeptTable {
   std::vector<std::uint8_t> isKept_;  // of each block; all set while nothing is kept at all
   bool isKeeping_ = false;
   std::vector<std::uint32_t> numbers_;  // of the blocks in kept_
-  std::deque<std::array<Rec, kBlock>> kept_;
+  std::vector<std::vector<Rec>> kept_;
 };
 
 template <typename Rec>
