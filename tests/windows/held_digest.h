@@ -28,9 +28,10 @@ class Digester {
   void Add(std::uint64_t word) { sum = (std::rotl(sum, 5) ^ word) * 0x9e3779b97f4a7c15; }
   void Add(double number) { Add(std::bit_cast<std::uint64_t>(number)); }
   void Add(int number) { Add(static_cast<std::uint64_t>(number)); }
+  // A name of a file without its folder, which is another one in each program.
   void Add(const std::string& text) {
-    for (const char c : text) Add(static_cast<int>(c));
-    Add(static_cast<int>(text.size()));
+    for (std::size_t i = text.rfind('/') + 1; i < text.size(); ++i) Add(static_cast<int>(text[i]));
+    Add(-1);
   }
   template <typename Rec>
   void AddFields(const Rec& record) {
