@@ -84,6 +84,12 @@ void ScrollBar::Show(double shown) {
   if (mirror_ != nullptr) mirror_->SetText(GeneralForm(shown));
 }
 
+void ScrollBar::ShowMax(int max) {
+  max_ = max;
+  NotifyChanged();
+  if (const int inside = Clamped(value_); inside != value_) Show(inside / divisor_);
+}
+
 void ScrollBar::SetMirror(TextBox& box, double divisor) {
   mirror_ = &box;
   divisor_ = divisor;

@@ -47,6 +47,9 @@ class ScrollBar : public Control {
   // handler runs, so that nothing is written back.
   void Show(double shown);
 
+  // A new limit as Show: a value that it leaves outside is pulled in, and no handler runs.
+  void ShowMax(int max);
+
   // What the bar stands for: value / divisor, or the finer number that was typed or shown.
   double Shown() const { return number_; }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include "core/axes.h"
 #include "core/model_store.h"
@@ -20,7 +21,8 @@ struct ChosenPoints {
 template <typename Act>
 void ForEachChosen(ModelStore& model, const ChosenPoints& chosen, Act act) {
   for (int number = chosen.first; number <= chosen.last; number += chosen.step) {
-    if (model.PointMark(chosen.part, number) == 1) act(number, model.Points(chosen.part, number));
+    if (std::as_const(model).PointMark(chosen.part, number) == 1)
+      act(number, model.Points(chosen.part, number));
   }
 }
 

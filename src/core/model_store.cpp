@@ -7,6 +7,7 @@
 
 #include "base/fault.h"
 #include "base/random_series.h"
+#include "core/same_record.h"
 
 namespace pelorium {
 
@@ -50,8 +51,43 @@ void ResetPart(ModelStore& model, int part) {
 }
 
 template <typename Rec>
-Range<Rec> Checked(Rec& from, Rec& to) {
+Range<const Rec> Checked(const Rec& from, const Rec& to) {
   return {&from, &to + 1};
+}
+
+struct Differ {
+  template <typename Rec>
+  bool operator()(const Rec& a, const Rec& b) const {
+    return !SameRecord(a, b);
+  }
+};
+
+// How far a change of a record goes, by its place in its table.
+ModelChange ReachOf(std::size_t at, const PointRec&, const PointRec&) {
+  return at < kUserParts * kPointSlots ? ModelChange::Model : ModelChange::Elsewhere;
+}
+ModelChange ReachOf(std::size_t at, const FaceRec& before, const FaceRec& now) {
+  if (SameButCorners(before, now)) return ModelChange::Corners;
+  return at < kUserParts * kFaceSlots ? ModelChange::Model : ModelChange::Elsewhere;
+}
+ModelChange ReachOf(std::size_t at, const PartHeader&, const PartHeader&) {
+  return at < kUserParts ? ModelChange::Model : ModelChange::Elsewhere;
+}
+// A mark of a point; one of a face comes with the face.
+ModelChange ReachOf(std::size_t at, std::int16_t, std::int16_t) {
+  return at < kUserParts * kPointSlots ? ModelChange::Model : ModelChange::Elsewhere;
+}
+template <typename Rec>
+ModelChange ReachOf(std::size_t, const Rec&, const Rec&) {
+  return ModelChange::Model;
+}
+
+template <typename Rec>
+void WidenBy(const KeptTable<Rec>& table, ModelChange& reach) {
+  table.ForEachChange(Differ{}, [&reach](std::size_t at, const Rec& before, const Rec& now) {
+    reach = std::max(reach, ReachOf(at, before, now));
+    return reach < ModelChange::Model;
+  });
 }
 
 }  // namespace
@@ -67,18 +103,52 @@ ModelStore::ModelStore()
       profiles_(kProfileSlots) {}
 
 MaterialRec& ModelStore::MaterialGroups(int group) {
-  return materials_[Checked(group, kGroupSlots, "group")];
+  return materials_.Edit(Checked(group, kGroupSlots, "group"));
 }
 const MaterialRec& ModelStore::MaterialGroups(int group) const {
   return materials_[Checked(group, kGroupSlots, "group")];
 }
-PartHeader& ModelStore::Part(int part) { return parts_[Checked(part, kParts, "Part")]; }
+PartHeader& ModelStore::Part(int part) { return parts_.Edit(Checked(part, kParts, "Part")); }
 const PartHeader& ModelStore::Part(int part) const { return parts_[Checked(part, kParts, "Part")]; }
 ProfileHeader& ModelStore::Profile(int profile) {
-  return profiles_[Checked(profile, kProfileSlots, "profile")];
+  return profiles_.Edit(Checked(profile, kProfileSlots, "profile"));
 }
 const ProfileHeader& ModelStore::Profile(int profile) const {
   return profiles_[Checked(profile, kProfileSlots, "profile")];
+}
+
+Range<FaceRec> ModelStore::EditFaces(int part, int from, int to) {
+  const std::size_t first = FaceIndex(part, from), last = FaceIndex(part, to);
+  return {faces_.Edit(first, last), &faces_.Edit(last) + 1};
+}
+
+void ModelStore::BeginChanges() {
+  std::apply([](auto&... table) { (table.Begin(), ...); }, Tables());
+}
+
+ModelChange ModelStore::Changes() const {
+  ModelChange reach = ModelChange::None;
+  const auto widen = [&reach](const auto& table) {
+    if (reach < ModelChange::Model) WidenBy(table, reach);
+  };
+  std::apply([&widen](const auto&... table) { (widen(table), ...); }, Tables());
+  return reach;
+}
+
+bool ModelStore::hasMarks() const {
+  return std::apply([](const auto&... table) { return (table.hasMarks() || ...); }, Tables());
+}
+
+ModelPatch ModelStore::TakeChanges() const {
+  return std::apply([](const auto&... table) { return ModelPatch(table.Changes(Differ{})...); }, Tables());
+}
+
+void ModelStore::Swap(ModelPatch& patch) {
+  std::apply(
+      [this](auto&... side) {
+        std::apply([&side...](auto&... table) { (table.Swap(side), ...); }, Tables());
+      },
+      patch);
 }
 
 std::size_t ModelStore::PointIndex(int part, int point) {
@@ -100,7 +170,7 @@ Range<const FaceRec> FaceRange(const ModelStore& model, int part, int from, int 
 
 Range<FaceRec> FaceRange(ModelStore& model, int part, int from, int to) {
   if (from > to) return {nullptr, nullptr};
-  return Checked(model.Faces(part, from), model.Faces(part, to));
+  return model.EditFaces(part, from, to);
 }
 
 Range<const PointRec> PointRange(const ModelStore& model, int part, int from, int to) {

@@ -10,7 +10,11 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
+
+#include "core/kept_table.h"
+#include "core/model_patch.h"
 
 namespace pelorium {
 
@@ -125,21 +129,38 @@ struct MaterialRec {
   std::string GroupName;
 };
 
+// The numbers from..to of a table, checked once and then walked on contiguous memory.
+template <typename Rec>
+struct Range {
+  Rec* first;
+  Rec* last;  // one past the end
+  Rec* begin() const { return first; }
+  Rec* end() const { return last; }
+};
+
 // All tables, allocated once. Subscripts are checked: one outside its table raises a Subscript fault.
+//
+// Reading through a const ModelStore leaves no mark; a record that is reached through another one counts as
+// written, and what it was before is kept while changes are kept at all.
 class ModelStore {
  public:
   ModelStore();
+  ModelStore(const ModelStore&) = delete;
+  ModelStore& operator=(const ModelStore&) = delete;
 
-  PointRec& Points(int part, int point) { return points_[PointIndex(part, point)]; }
+  PointRec& Points(int part, int point) { return points_.Edit(PointIndex(part, point)); }
   const PointRec& Points(int part, int point) const { return points_[PointIndex(part, point)]; }
   // Second on/off mark of a point: what the views show and the picks choose.
-  std::int16_t& PointMark(int part, int point) { return pointMarks_[PointIndex(part, point)]; }
+  std::int16_t& PointMark(int part, int point) { return pointMarks_.Edit(PointIndex(part, point)); }
   std::int16_t PointMark(int part, int point) const { return pointMarks_[PointIndex(part, point)]; }
-  FaceRec& Faces(int part, int face) { return faces_[FaceIndex(part, face)]; }
+  FaceRec& Faces(int part, int face) { return faces_.Edit(FaceIndex(part, face)); }
   const FaceRec& Faces(int part, int face) const { return faces_[FaceIndex(part, face)]; }
   // Written 1 at the start and by imports; nothing reads it.
-  std::int16_t& FaceMark(int part, int face) { return faceMarks_[FaceIndex(part, face)]; }
-  ProfilePointRec& ProfilePts(int point, int profile) { return profilePoints_[ProfileIndex(point, profile)]; }
+  std::int16_t& FaceMark(int part, int face) { return faceMarks_.Edit(FaceIndex(part, face)); }
+  std::int16_t FaceMark(int part, int face) const { return faceMarks_[FaceIndex(part, face)]; }
+  ProfilePointRec& ProfilePts(int point, int profile) {
+    return profilePoints_.Edit(ProfileIndex(point, profile));
+  }
   const ProfilePointRec& ProfilePts(int point, int profile) const {
     return profilePoints_[ProfileIndex(point, profile)];
   }
@@ -151,28 +172,40 @@ class ModelStore {
   ProfileHeader& Profile(int profile);
   const ProfileHeader& Profile(int profile) const;
 
+  // Faces from..to, to be written.
+  Range<FaceRec> EditFaces(int part, int from, int to);
+
+  // From now on what records were before they changed is kept, starting with the present state.
+  void BeginChanges();
+  // How far the changes since then go; stops looking at the first one that goes to the model.
+  ModelChange Changes() const;
+  // True when a record was reached to be written since then.
+  bool hasMarks() const;
+  // What the records that changed were before.
+  ModelPatch TakeChanges() const;
+  // The tables and the patch change sides; nothing of it counts as a change.
+  void Swap(ModelPatch& patch);
+
  private:
   static std::size_t PointIndex(int part, int point);
   static std::size_t FaceIndex(int part, int face);
   static std::size_t ProfileIndex(int point, int profile);
 
-  std::vector<PointRec> points_;
-  std::vector<std::int16_t> pointMarks_;
-  std::vector<FaceRec> faces_;
-  std::vector<std::int16_t> faceMarks_;
-  std::vector<ProfilePointRec> profilePoints_;
-  std::vector<MaterialRec> materials_;
-  std::vector<PartHeader> parts_;
-  std::vector<ProfileHeader> profiles_;
-};
+  auto Tables() {
+    return std::tie(points_, pointMarks_, faces_, faceMarks_, profilePoints_, materials_, parts_, profiles_);
+  }
+  auto Tables() const {
+    return std::tie(points_, pointMarks_, faces_, faceMarks_, profilePoints_, materials_, parts_, profiles_);
+  }
 
-// The numbers from..to of a table, checked once and then walked on contiguous memory.
-template <typename Rec>
-struct Range {
-  Rec* first;
-  Rec* last;  // one past the end
-  Rec* begin() const { return first; }
-  Rec* end() const { return last; }
+  KeptTable<PointRec> points_;
+  KeptTable<std::int16_t> pointMarks_;
+  KeptTable<FaceRec> faces_;
+  KeptTable<std::int16_t> faceMarks_;
+  KeptTable<ProfilePointRec> profilePoints_;
+  KeptTable<MaterialRec> materials_;
+  KeptTable<PartHeader> parts_;
+  KeptTable<ProfileHeader> profiles_;
 };
 
 // Faces and points `from`..`to` of a Part; an empty range when from > to.

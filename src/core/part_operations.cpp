@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/fault.h"
+#include "core/same_record.h"
 
 namespace pelorium {
 
@@ -12,15 +13,21 @@ bool CornersAreInTable(const FaceRec& face) {
   return isIn(face.corner1pt) && isIn(face.corner2pt) && isIn(face.corner3pt);
 }
 
+// Faces that have it right already are not written.
 void SyncFaceCorners(ModelStore& model, int part) {
-  for (FaceRec& face : FaceRange(model, part, FirstFace(model, part), model.Part(part).maxfaces)) {
+  const ModelStore& read = model;
+  int number = FirstFace(model, part);
+  for (const FaceRec& face : FaceRange(read, part, number, read.Part(part).maxfaces)) {
+    const int at = number++;
     if (!CornersAreInTable(face)) continue;
-    const PointRec& p1 = model.Points(part, face.corner1pt);
-    const PointRec& p2 = model.Points(part, face.corner2pt);
-    const PointRec& p3 = model.Points(part, face.corner3pt);
-    face.c1X = p1.X, face.c1Y = p1.Y, face.c1Z = p1.Z;
-    face.c2X = p2.X, face.c2Y = p2.Y, face.c2Z = p2.Z;
-    face.c3X = p3.X, face.c3Y = p3.Y, face.c3Z = p3.Z;
+    const PointRec& p1 = read.Points(part, face.corner1pt);
+    const PointRec& p2 = read.Points(part, face.corner2pt);
+    const PointRec& p3 = read.Points(part, face.corner3pt);
+    FaceRec synced = face;
+    synced.c1X = p1.X, synced.c1Y = p1.Y, synced.c1Z = p1.Z;
+    synced.c2X = p2.X, synced.c2Y = p2.Y, synced.c2Z = p2.Z;
+    synced.c3X = p3.X, synced.c3Y = p3.Y, synced.c3Z = p3.Z;
+    if (!SameRecord(face, synced)) model.Faces(part, at) = synced;
   }
 }
 

@@ -49,7 +49,17 @@ void Picture::Clear() {
   source_ = nullptr;
   ground_ = backColour;
   groundBackdrop_ = backdrop_;
-  ++revision_;
+  Changed();
+}
+
+void Picture::Changed() {
+  static std::uint64_t changes = 0;
+  revision_ = ++changes;
+}
+
+std::optional<Colour> Picture::PlainColour() const {
+  const bool isPlain = cleared_ && !source_ && calls_.empty() && !groundBackdrop_;
+  return isPlain ? std::optional(ground_) : std::nullopt;
 }
 
 void Picture::TakeFrom(std::shared_ptr<PixelSource> source) {
@@ -85,7 +95,7 @@ std::int16_t Picture::StoredWidth() const {
 void Picture::Record(const Call& call) {
   if (calls_.size() >= kMaxPendingCalls) Rasterise();
   calls_.push_back(call);
-  ++revision_;
+  Changed();
 }
 
 Pixel Picture::ToPixel(float x, float y) const {
@@ -115,7 +125,7 @@ void Picture::SetPixels(const std::vector<std::uint32_t>& pixels) {
     source_ = nullptr;
   }
   std::copy_n(pixels.begin(), std::min(pixels.size(), pixels_.size()), pixels_.begin());
-  ++revision_;
+  Changed();
 }
 
 void Picture::TakePixels(int width, int height, std::vector<std::uint32_t> pixels) {
@@ -129,7 +139,7 @@ void Picture::TakePixels(int width, int height, std::vector<std::uint32_t> pixel
 
 PixelGrid Picture::Edit() {
   Rasterise();
-  ++revision_;
+  Changed();
   return {pixels_.data(), width_, height_};
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -111,8 +112,12 @@ class Picture {
   // next other call of the picture that changes it.
   PixelGrid Edit();
 
-  // Counts the changes, so that a screen knows whether it shows the present picture.
+  // Another number after each change, so that a screen knows whether it shows the present picture. Pictures
+  // of the same number hold the same pixels.
   std::uint64_t Revision() const { return revision_; }
+
+  // The colour that the picture is all over, as long as nothing was drawn or looked at since it was cleared.
+  std::optional<Colour> PlainColour() const;
 
   // The pen and the ground.
   Colour foreColour = Rgb(224, 224, 224);
@@ -133,6 +138,7 @@ class Picture {
   void Record(const Call& call);
   void Rasterise() const;
   void FillGround() const;
+  void Changed();
 
   int width_, height_;
   double scaleWidth_, scaleHeight_;

@@ -107,6 +107,7 @@ bool cDIBSection::Create(int width, int height) {
   biWidth_ = width;
   biHeight_ = height;
   bits_.assign(RowStart(height), 0);
+  revision_ = 0;
   drawSession_ = session;
   return true;
 }
@@ -120,7 +121,14 @@ bool cDIBSection::CreateFromPicture(const Picture& picture) {
 void cDIBSection::ClearUp() {
   biWidth_ = biHeight_ = 0;
   bits_ = {};
+  revision_ = 0;
   drawSession_ = false;
+}
+
+std::uint64_t cDIBSection::Revision() const {
+  static std::uint64_t revisions = 0;
+  if (revision_ == 0) revision_ = ++revisions;
+  return revision_;
 }
 
 std::uint32_t cDIBSection::PixelAt(int x, int y) const {
@@ -142,6 +150,7 @@ void cDIBSection::LoadPictureBlt(const Picture& source, int left, int top, int w
 void cDIBSection::LoadPictureBlt(const cDIBSection& source) {
   if (source.biWidth_ == biWidth_ && source.biHeight_ == biHeight_) {
     bits_ = source.bits_;
+    revision_ = 0;
     return;
   }
   const auto bytes = static_cast<std::size_t>(std::min(biWidth_, source.biWidth_)) * kBytesPerPixel;

@@ -35,10 +35,21 @@ class cDIBSection {
   int BytesPerScanLine() const { return (biWidth_ * kBytesPerPixel + 3) & ~3; }
 
   // Row `y` counts from the bottom; pixel x of it has the bytes 3x, 3x + 1, 3x + 2.
-  std::uint8_t* DIBSectionBitsPtr() { return bits_.data(); }
-  std::uint8_t* Row(int y) { return bits_.data() + RowStart(y); }
+  std::uint8_t* DIBSectionBitsPtr() {
+    revision_ = 0;
+    return bits_.data();
+  }
+  const std::uint8_t* DIBSectionBitsPtr() const { return bits_.data(); }
+  std::uint8_t* Row(int y) {
+    revision_ = 0;
+    return bits_.data() + RowStart(y);
+  }
   const std::uint8_t* Row(int y) const { return bits_.data() + RowStart(y); }
   std::uint32_t PixelAt(int x, int y) const;  // 0x00BBGGRR, y from the bottom
+
+  // Another number when the surface may have been written since it was last asked for. Surfaces of the same
+  // number hold the same bytes.
+  std::uint64_t Revision() const;
 
   // Copies what lies under both from the source, whose place (left, top) comes to the surface's upper left
   // corner. A negative width or height means the surface's own.
@@ -71,6 +82,7 @@ class cDIBSection {
   std::int32_t biWidth_ = 0, biHeight_ = 0;
   std::vector<std::uint8_t> bits_;
   bool drawSession_ = false;
+  mutable std::uint64_t revision_ = 0;  // 0: written since it was asked for
 };
 
 }  // namespace pelorium

@@ -13,6 +13,7 @@
 #include "script/places.h"
 #include "script/script_runner.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 
 namespace pelorium {
 
@@ -24,7 +25,20 @@ void Get(ScriptRunner& runner, const Words& words) {
   runner.out() << AnswerForm(FindPlace(runner.app(), words[1]).get()) << '\n';
 }
 
-void Set(ScriptRunner& runner, const Words& words) { FindPlace(runner.app(), words[1]).set(words[2]); }
+// Of "Form55.HScroll24.max", if there is one.
+const Control* ControlOf(const App& app, const std::string& place) {
+  const std::size_t point = place.find('.');
+  const Window* window = app.FindWindow(place.substr(0, point));
+  if (window == nullptr || point == std::string::npos) return nullptr;
+  const std::string rest = place.substr(point + 1);
+  return window->Find(rest.substr(0, rest.find('.')));
+}
+
+// What a script sets can be undone like what a person does.
+void Set(ScriptRunner& runner, const Words& words) {
+  const HistoryEvent step(*runner.app().history, {ControlOf(runner.app(), words[1]), words[1]});
+  FindPlace(runner.app(), words[1]).set(words[2]);
+}
 
 void Event(ScriptRunner& runner, const Words& words) {
   const UserEvent event = EventOf(words);
@@ -82,9 +96,21 @@ void Save(ScriptRunner& runner, const Words& words) {
 
 void Load(ScriptRunner& runner, const Words& words) {
   PictureBox& box = FindPicture(runner.app(), words[1]);
+  const HistoryEvent step(*runner.app().history, {&box});
   LoadPicture(box.picture(), words[2]);
   box.NotifyChanged();
 }
+
+// By way of the menu, as on the desktop.
+template <const char* item>
+void PressMenuItem(ScriptRunner& runner, const Words&) {
+  UserEvent press;
+  press.window = "MDIForm1";
+  press.control = item;
+  runner.app().Deliver(press);
+}
+
+constexpr char kUndo[] = "undoit", kRedo[] = "redoit";
 
 void Seed(ScriptRunner& runner, const Words& words) {
   runner.app().random.FixClockSeed(NumberWord(words[1], "N"));
@@ -124,6 +150,8 @@ constexpr Command kCommands[] = {
     {"dialogs", 0, 0, "", Dialogs},
     {"faults", 0, 0, "", Faults},
     {"notices", 0, 0, "", PrintNotices},
+    {"undo", 0, 0, "", PressMenuItem<kUndo>},
+    {"redo", 0, 0, "", PressMenuItem<kRedo>},
     {"points", 3, 3, "PART FIRST LAST", PrintRows<PointLines>},
     {"faces", 3, 3, "PART FIRST LAST", PrintRows<FaceLines>},
     {"corners", 3, 3, "PART FIRST LAST", PrintRows<CornerLines>},

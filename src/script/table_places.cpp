@@ -10,6 +10,7 @@
 #include "core/record_fields.h"
 #include "script/parser.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 
 namespace pelorium {
 
@@ -35,6 +36,15 @@ Place NumberPlace(float& number) {
             return std::isfinite(number) ? WholeNumber(ShortestForm(number)) : static_cast<double>(number);
           },
           [&number](const std::string& word) { number = SingleWord(word, "value"); }};
+}
+
+// The memory of undo steps, in megabytes.
+Place UndoLimitPlace(History& history) {
+  constexpr double kMegabyte = 1 << 20;
+  return {[&history] { return static_cast<double>(history.limit()) / kMegabyte; },
+          [&history](const std::string& word) {
+            history.SetLimit(ToInteger<std::uint32_t>(std::max(0.0, NumberWord(word, "value") * kMegabyte)));
+          }};
 }
 
 template <typename Rec>
@@ -155,6 +165,7 @@ std::optional<Place> FindTablePlace(App& app, const std::string& text) {
 
 std::optional<Place> FindSharedPlace(App& app, const std::string& text) {
   ShadedPose& pose = app.shadedPose;
+  if (text == "UndoLimit") return UndoLimitPlace(*app.history);
   if (text == "TessCount") return NumberPlace(app.TessCount);
   if (text == "RotX") return NumberPlace(pose.RotX);
   if (text == "RotY") return NumberPlace(pose.RotY);

@@ -14,6 +14,7 @@
 #include "windows/geometry/specialeffects5_edit_geometry.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
+#include "windows/shell/history.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/form36_view.h"
 #include "windows/view/form51_view_options.h"
@@ -45,6 +46,7 @@ EditByFace::EditByFace(App& app) : ToolWindow(app, "editbyface", "Face Info/Edit
   BindOrigin();
   BindTurns();
   BindPicture();
+  for (ScrollBar* bar : {&VScroll1, &VScroll2}) app_.history->held.Carry(*bar);
   SetLayout(DeclareLayout());
 }
 
@@ -163,6 +165,19 @@ void EditByFace::BindPicture() {
 void EditByFace::CountsChanged(Counts which) {
   if (which == Counts::Points) return;
   ShowLimits();
+  RecordsRestored();
+}
+
+void EditByFace::CountsRestored() {
+  const PartHeader& part = ReadModel(app_).Part(CurrentPart(app_));
+  const int points = part.maxpoints, faces = std::max<int>(0, part.maxfaces);
+  VScroll1.ShowMax(points);
+  VScroll2.ShowMax(std::max(1, faces));
+  Text9.SetText(std::to_string(points));
+  Text10.SetText(std::to_string(faces));
+}
+
+void EditByFace::RecordsRestored() {
   Trapped(app_.drawingFaults, VScroll2.FullName(), [this] {
     ShowPoint(Fill::All);
     ShowFace(Fill::All);
@@ -178,7 +193,7 @@ void EditByFace::ViewsRefreshed(const ViewSettings&) {
 }
 
 void EditByFace::ShowLimits() {
-  const PartHeader& part = app_.model.Part(CurrentPart(app_));
+  const PartHeader& part = ReadModel(app_).Part(CurrentPart(app_));
   const int points = part.maxpoints, faces = std::max<int>(0, part.maxfaces);  // a count may stand at -1
   if (VScroll1.value() > points) VScroll1.SetValue(0);
   VScroll1.SetMax(points);
@@ -188,11 +203,13 @@ void EditByFace::ShowLimits() {
   Text10.SetText(std::to_string(faces));
 }
 
-FaceRec& EditByFace::ChosenFace() { return app_.model.Faces(CurrentPart(app_), VScroll2.value()); }
+const FaceRec& EditByFace::ChosenFace() const {
+  return ReadModel(app_).Faces(CurrentPart(app_), VScroll2.value());
+}
 
 void EditByFace::ShowPoint(Fill fill) {
   Label4.SetCaption(std::to_string(VScroll1.value()));
-  const PointRec& point = app_.model.Points(CurrentPart(app_), VScroll1.value());
+  const PointRec& point = ReadModel(app_).Points(CurrentPart(app_), VScroll1.value());
   for (std::size_t i = 0; i < kAxes.size(); ++i) {
     FillBox(*pointBoxes_[i], RoundedForm(Coordinate(point, kAxes[i]), kShownDecimals), fill == Fill::All);
   }
@@ -269,7 +286,7 @@ void EditByFace::StorePlaces() {
 
 void EditByFace::StoreCounts() {
   StoreCountEntry(app_.model, CurrentPart(app_), Text9.Number(), Text10.Number());
-  const PartHeader& part = app_.model.Part(CurrentPart(app_));
+  const PartHeader& part = ReadModel(app_).Part(CurrentPart(app_));
   if (Text9.Number() > kMaxPoints) Text9.SetText(std::to_string(kMaxPoints));
   if (Text10.Number() > kMaxFaces) Text10.SetText(std::to_string(kMaxFaces));
   VScroll1.SetMax(part.maxpoints);

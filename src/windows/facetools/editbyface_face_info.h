@@ -25,6 +25,8 @@ class EditByFace : public ToolWindow {
   // The limits of both choices follow the Part's counts; a choice that lies outside goes back to point 0,
   // face 1.
   void CountsChanged(Counts which) override;
+  void CountsRestored() override;
+  void RecordsRestored() override;
   // While the window is open its numbers follow every edit; a box that a person types in is left alone.
   void ViewsRefreshed(const ViewSettings& settings) override;
 
@@ -126,7 +128,7 @@ class EditByFace : public ToolWindow {
   const std::array<TextBox*, 9> placeBoxes_ = {&Text11, &Text12, &Text13, &Text14, &Text15,
                                                &Text16, &Text17, &Text18, &Text19};
 
-  FaceRec& ChosenFace();
+  const FaceRec& ChosenFace() const;
   void ShowPoint(Fill fill);
   void ShowCorners(Fill fill);
   void ShowPlaces(Fill fill);

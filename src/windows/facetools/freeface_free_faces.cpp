@@ -135,7 +135,7 @@ FreeFaceSettings FreeFace::ReadSettings() const {
 // last; else what Revolve Profile says. The last point of a laid row stands where the first one does, or will
 // be joined to it.
 void FreeFace::ReadBody(FreeFaceSettings& s) const {
-  const auto& grid = app_.model.Part(CurrentPart(app_)).grid;
+  const auto& grid = ReadModel(app_).Part(CurrentPart(app_)).grid;
   if (pressedBody_ || grid) {
     s.body = pressedBody_ ? *pressedBody_ : *grid;
     s.capFaces = s.body.width - 2;
@@ -202,12 +202,12 @@ void FreeFace::StoreCorner(const ScrollBar& bar, std::int32_t FaceRec::*corner) 
 
 void FreeFace::CountsChanged(Counts which) {
   if (which == Counts::Points) return;
-  Text16.SetText(std::to_string(app_.model.Part(CurrentPart(app_)).maxfaces));
+  Text16.SetText(std::to_string(ReadModel(app_).Part(CurrentPart(app_)).maxfaces));
   HScroll12_Change();
 }
 
 void FreeFace::HScroll12_Change() {
-  const FaceRec& face = RoutedFace();
+  const FaceRec& face = ReadModel(app_).Faces(CurrentPart(app_), HScroll12.value());
   HScroll16.Show(face.corner1pt);
   HScroll17.Show(face.corner2pt);
   HScroll18.Show(face.corner3pt);

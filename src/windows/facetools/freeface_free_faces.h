@@ -31,6 +31,7 @@ class FreeFace : public ToolWindow {
 
   // The count of faces and the face in the routing boxes.
   void CountsChanged(Counts which) override;
+  void RecordsRestored() override { CountsChanged(Counts::Faces); }
 
   // Presses a cap's button for a generator: the cap closes the body that was just laid. One without rows gets
   // none.

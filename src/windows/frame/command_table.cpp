@@ -15,6 +15,7 @@
 #include "windows/geometry/revolveprof_revolve_profile.h"
 #include "windows/geometry/weld_seam.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 #include "windows/shell/readers.h"
 #include "windows/view/shared_parameters.h"
 
@@ -35,6 +36,9 @@ void ClosePanels(App& app) {
     if (window->role() == WindowRole::Tool && window->visible()) window->Close();
   }
 }
+
+void UndoStep(App& app) { app.history->Undo(); }
+void RedoStep(App& app) { app.history->Redo(); }
 
 void Exit(App& app) { app.frame->mdiForm1.Exit(); }
 
@@ -253,8 +257,11 @@ const std::vector<MenuCommand>& MenuCommands() {
       {"", "About", "aboutit", Show("frmAbout"), "version and system"},
 
       {"", "Window", "windowit", {}, "", "Ctrl+"},
+      {"windowit", "Undo", "undoit", Run(UndoStep),
+       "takes back what was done last to the model, the origin or a picture", "Ctrl+Z"},
+      {"windowit", "Redo", "redoit", Run(RedoStep), "does again what was undone last", "Ctrl+Shift+Z"},
       {"windowit", "Close panels", "closepanels", Run(ClosePanels),
-       "closes all tool windows; the pages and the options stay"},
+       "closes all tool windows; the pages and the options stay", "", kLineAbove},
       {"windowit", "Arrange", "arrangeit", Run(ArrangeWindows), "brings all panels back into their column"},
   };
   return kCommands;

@@ -12,6 +12,7 @@
 #include "windows/profiles/profiles_windows.h"
 #include "windows/shell/app_shell.h"
 #include "windows/shell/file_names.h"
+#include "windows/shell/history.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/follow_sections.h"
 #include "windows/view/form51_view_options.h"
@@ -73,6 +74,7 @@ void Form31::Command14_Click() {
   if (name.empty()) return;
   Text1.SetText(name.string());
   SaveFile(app_, name, [this](TextWriter& out) { WriteProject(app_.model, out); });
+  app_.history->ModelIsOnFile(name.filename().string());
   RefreshViews(app_);
 }
 
@@ -83,6 +85,7 @@ void Form31::Command15_Click() {
     ReadProject(app_.model, text);
     return CountsOfParts(app_);
   });
+  app_.history->ModelIsOnFile(name.filename().string());
   FollowCounts(app_);
   FollowSections(app_);
   app_.view->form51.ShowProfile();
@@ -100,8 +103,8 @@ void Form31::Command11_Click() {
   if (name.empty()) return;
   OpenFile(app_, name, [this](std::string_view text) {
     ReadTextureFile(app_.model, text);
-    return std::to_string(app_.model.Part(0).vtcount) + " and " + std::to_string(app_.model.Part(1).vtcount) +
-           " UV points";
+    return std::to_string(ReadModel(app_).Part(0).vtcount) + " and " +
+           std::to_string(ReadModel(app_).Part(1).vtcount) + " UV points";
   });
 }
 

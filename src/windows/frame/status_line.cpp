@@ -5,6 +5,7 @@
 
 #include "core/chosen_points.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 #include "windows/view/shared_parameters.h"
 
 namespace pelorium {
@@ -23,18 +24,24 @@ std::string HintOfView(const App& app) {
   }
 }
 
+// The project on file, and a dot when the model is another one by now.
+std::string FileOfModel(const History& history) {
+  std::string text = history.fileName().empty() ? "" : "   " + history.fileName();
+  return history.IsModelChanged() ? text + " \u25CF" : text;
+}
+
 }  // namespace
 
 std::string StatusLine(const App& app) {
   const int part = CurrentPart(app);
-  const PartHeader& header = app.model.Part(part);
+  const PartHeader& header = ReadModel(app).Part(part);
   int chosen = 0;
   for (int i = std::max(1, PointRangeStart(app)); i <= std::min(PointRangeEnd(app), kMaxPoints); ++i) {
-    if (app.model.PointMark(part, i) == 1) ++chosen;
+    if (ReadModel(app).PointMark(part, i) == 1) ++chosen;
   }
   return "Part " + std::to_string(part) + "   Profile " + std::to_string(CurrentProfile(app)) + "   " +
          std::to_string(header.maxpoints) + " points, " + std::to_string(chosen) + " chosen   " +
-         std::to_string(header.maxfaces) + " faces";
+         std::to_string(header.maxfaces) + " faces" + FileOfModel(*app.history);
 }
 
 std::string MouseHint(const App& app) {

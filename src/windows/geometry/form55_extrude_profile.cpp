@@ -100,19 +100,23 @@ double Form55::ReadField(std::size_t row) const {
   const ExtrudeField& field = ExtrudeFields()[row];
   const int profile = CurrentProfile(app_);
   if (const auto* whole = std::get_if<std::int16_t ProfileHeader::*>(&field.field)) {
-    return app_.model.Profile(profile).**whole;
+    return ReadModel(app_).Profile(profile).**whole;
   }
   if (const auto* general = std::get_if<double ProfileHeader::*>(&field.field)) {
-    return app_.model.Profile(profile).**general;
+    return ReadModel(app_).Profile(profile).**general;
   }
   const int point = field.of == FieldOf::Layer ? HScroll16.value() : HScroll6.value();
-  return app_.model.ProfilePts(point, profile).*std::get<double ProfilePointRec::*>(field.field);
+  return ReadModel(app_).ProfilePts(point, profile).*std::get<double ProfilePointRec::*>(field.field);
 }
 
 void Form55::ProfileChosen() {
-  const ProfileHeader& header = app_.model.Profile(CurrentProfile(app_));
   HScroll35.SetValue(CurrentProfile(app_));
   HScroll36.SetValue(CurrentProfile(app_));
+  RecordsRestored();
+}
+
+void Form55::RecordsRestored() {
+  const ProfileHeader& header = ReadModel(app_).Profile(CurrentProfile(app_));
   HScroll24.Show(header.layerCount);
   ShowFields();
   showing_ = true;
@@ -222,7 +226,7 @@ void Form55::FinishMesh(const ExtrudeSettings& settings, int next) {
 // Each tick presses the end cap of the other name: layer 0 is the top of a body that stands on its last
 // layer.
 void Form55::PressCaps(const ExtrudeSettings& settings) {
-  const ProfileHeader& header = app_.model.Profile(settings.profile);
+  const ProfileHeader& header = ReadModel(app_).Profile(settings.profile);
   const LaidGrid body{RingWidth(settings), MeshedRows(settings)};
   if (header.topCap == 1) app_.links.pressCap(Cap::Bottom, body);
   if (header.bottomCap == 1) app_.links.pressCap(Cap::Top, body);

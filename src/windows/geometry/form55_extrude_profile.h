@@ -22,6 +22,7 @@ class Form55 : public ToolWindow {
 
   // The settings of the current profile show; nothing is written.
   void ProfileChosen() override;
+  void RecordsRestored() override;
   // The general fields show anew; they were changed elsewhere.
   void ShowGeneralFields();
   // The current Part was chosen elsewhere.

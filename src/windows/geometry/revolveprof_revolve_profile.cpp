@@ -12,6 +12,7 @@
 #include "windows/geometry/geometry_windows.h"
 #include "windows/geometry/weld_seam.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/follow_sections.h"
 #include "windows/view/shared_parameters.h"
@@ -33,6 +34,8 @@ RevolveProf::RevolveProf(App& app) : ToolWindow(app, "revolveprof", "Revolve Pro
   HScroll10.onChange = [this] { HScroll10_Change(); };
   HScroll10.onMovedByPerson =
       HScroll22.onMovedByPerson = [this] { app_.model.Part(CurrentPart(app_)).grid.reset(); };
+  app_.history->held.Carry(HScroll10);
+  app_.history->held.Carry(HScroll22, HeldState::CarriedLimit::IsCarried);
   OnEdit(Command15, [this] { Command15_Click(); }, {.syncs = false, .holds = true});
   OnEdit(Command18, [this] { JoinRingEnds(app_.model, CurrentPart(app_), PointsPerLayer(app_)); });
   SetLayout(DeclareLayout());
@@ -73,7 +76,7 @@ void RevolveProf::ProfileChosen() {
 }
 
 void RevolveProf::ShowGeneralFields() {
-  const ProfileHeader& profile = app_.model.Profile(CurrentProfile(app_));
+  const ProfileHeader& profile = ReadModel(app_).Profile(CurrentProfile(app_));
   for (const GeneralField& f : generalFields_) f.bar->Show(profile.*f.field);
 }
 

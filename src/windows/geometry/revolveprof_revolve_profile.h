@@ -21,6 +21,7 @@ class RevolveProf : public ToolWindow {
 
   // The general fields show the current profile's values; nothing is written.
   void ProfileChosen() override;
+  void RecordsRestored() override { ShowGeneralFields(); }
   void ShowGeneralFields();
 
   // Petals, spiral and corkscrew back to none, as the plain revolve of the menu wants it.

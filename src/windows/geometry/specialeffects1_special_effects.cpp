@@ -126,7 +126,7 @@ void SpecialEffects1::LoadPictureNumber(int number) { LoadNumberedPicture(app_, 
 
 // Layers past the last point make an empty choice.
 void SpecialEffects1::ChooseLayers() {
-  const int width = PointsPerLayer(app_), highest = app_.model.Part(CurrentPart(app_)).maxpoints;
+  const int width = PointsPerLayer(app_), highest = ReadModel(app_).Part(CurrentPart(app_)).maxpoints;
   Form5& edit = app_.view->form5;
   edit.HScroll20.SetValueWidening(HScroll23.value() * width + 1);
   edit.HScroll25.SetValueWidening(std::min(highest, (HScroll22.value() + 1) * width));
@@ -191,7 +191,7 @@ void SpecialEffects1::Command10_Click() {
   settings.part = CurrentPart(app_);
   settings.tolerance = HScroll3.value();
   settings.moveFaceCorners = !CornersFollow(app_);  // else the sync brings them along
-  ProgressBar1.SetMax(app_.model.Part(settings.part).maxpoints);
+  ProgressBar1.SetMax(ReadModel(app_).Part(settings.part).maxpoints);
   const int moved = JoinPoints(app_.model, settings, [this](int point) { ProgressBar1.SetValue(point); });
   HScroll3.box.SetText(std::to_string(moved));
 }
@@ -199,7 +199,7 @@ void SpecialEffects1::Command10_Click() {
 void SpecialEffects1::NamePart() { app_.model.Part(HScroll5.value()).PartName = Text8.text(); }
 
 void SpecialEffects1::ShowOffsets() {
-  const PartHeader& part = app_.model.Part(HScroll1.value());
+  const PartHeader& part = ReadModel(app_).Part(HScroll1.value());
   HScroll7.SetValue(HScroll7.Clamped(part.maxpoints));
   HScroll8.SetValue(HScroll8.Clamped(part.maxfaces));
 }

@@ -7,6 +7,7 @@
 #include "geometry/edit_chosen_points.h"
 #include "windows/geometry/geometry_windows.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 #include "windows/shell/hooks.h"
 #include "windows/shell/raised.h"
 #include "windows/shell/readers.h"
@@ -29,6 +30,7 @@ SpecialEffects5::SpecialEffects5(App& app)
   BindPicks();
   BindFaces();
   BindEdits();
+  for (ScrollBar* bar : {&HScroll4, &HScroll5}) app_.history->held.Carry(*bar);
   SetLayout(DeclareLayout());
 }
 
@@ -148,6 +150,11 @@ void SpecialEffects5::CountsChanged(Counts which) {
   if (which != Counts::Points) FaceRangeChosen();
 }
 
+void SpecialEffects5::CountsRestored() {
+  HScroll4.ShowMax(app_.view->form51.HScroll7.max());
+  HScroll5.ShowMax(app_.view->form51.HScroll5.max());
+}
+
 void SpecialEffects5::MoveFaceRange(ScrollBar& bar, ScrollBar& shared) {
   if (isFollowing_) return;
   {
@@ -175,13 +182,13 @@ void SpecialEffects5::HScroll9_Change() {
 
 void SpecialEffects5::Command5_Click() {
   const int part = CurrentPart(app_);
-  MarkPoints(app_.model, part, 1, app_.model.Part(part).maxpoints, false);
+  MarkPoints(app_.model, part, 1, ReadModel(app_).Part(part).maxpoints, false);
   MarkCorners(app_.model, part, FaceRangeStart(app_), FaceRangeEnd(app_), true);
 }
 
 void SpecialEffects5::Command6_Click(bool on) {
   const int part = CurrentPart(app_);
-  if (on) MarkPoints(app_.model, part, 1, app_.model.Part(part).maxpoints, false);
+  if (on) MarkPoints(app_.model, part, 1, ReadModel(app_).Part(part).maxpoints, false);
   MarkCorners(app_.model, part, FaceRangeStart(app_), FaceRangeEnd(app_), on, HScroll7.value());
 }
 

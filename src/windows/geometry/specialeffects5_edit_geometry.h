@@ -32,6 +32,7 @@ class SpecialEffects5 : public ToolWindow {
   // chosen, unless automatic actions are held.
   void FaceRangeChosen() override;
   void CountsChanged(Counts which) override;
+  void CountsRestored() override;
   // "Show parts" is the tick of the View Options.
   void ViewOptionChosen() override;
 

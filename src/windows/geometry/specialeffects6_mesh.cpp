@@ -266,7 +266,7 @@ void SpecialEffects6::Command3_Click() {
 }
 
 void SpecialEffects6::Command10_Click() {
-  const int points = app_.model.Part(CurrentPart(app_)).maxpoints;
+  const int points = ReadModel(app_).Part(CurrentPart(app_)).maxpoints;
   HScroll37.Show(points);
   app_.TessCount = points + 1;
 }

@@ -7,6 +7,7 @@
 #include "imaging/palette.h"
 #include "imaging/picture_marks.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 #include "windows/view/shared_parameters.h"
 
 namespace pelorium {
@@ -46,6 +47,7 @@ Texture::Texture(App& app) : ToolWindow(app, "texture", "Image maker") {
   SetPointSize();
   ShowPanel();
   ShowImage(Image::Foreground);
+  HoldImages();
 }
 
 void Texture::Load() {
@@ -89,9 +91,27 @@ void Texture::ShowImage(Image image) {
   const bool isForeground = image == Image::Foreground;
   Picture1.SetVisible(isForeground);
   Picture5.SetVisible(!isForeground);
+  FollowShown();
+}
+
+void Texture::FollowShown() {
+  const Image image = Picture1.visible() ? Image::Foreground : Image::Background;
   HScroll35.Show(static_cast<int>(image));
   VScroll2.Show(static_cast<int>(image));
-  Label32.SetCaption(isForeground ? "Foreground" : "Background");
+  Label32.SetCaption(image == Image::Foreground ? "Foreground" : "Background");
+}
+
+// What undo and redo bring back.
+void Texture::HoldImages() {
+  HeldState& held = app_.history->held;
+  for (PictureBox* box : {&Picture1, &Picture5, &Picture11}) held.Hold(*box);
+  for (cDIBSection* surface : {&source_, &working_}) held.Hold(*surface);
+  for (const char* bar : {"HScroll33", "HScroll30"}) held.Carry(Bar(bar));
+}
+
+void Texture::RecordsRestored() {
+  FollowShown();
+  for (const Image image : {Image::Foreground, Image::Background}) TakeSize(BoxOf(image));
 }
 
 Colour Texture::ChosenColour() const { return Rgb(HScroll2.value(), HScroll3.value(), HScroll4.value()); }

@@ -43,6 +43,8 @@ class Texture : public ToolWindow {
 
   // Items that open other windows are enabled when those exist.
   void Load() override;
+  // The images are other ones, and perhaps the other one shows.
+  void RecordsRestored() override;
 
   enum class Image { Foreground = 1, Background = 2 };
   PictureBox& BoxOf(Image image) { return image == Image::Foreground ? Picture1 : Picture5; }
@@ -60,6 +62,8 @@ class Texture : public ToolWindow {
   void LoadSource();
   // The source as it is; until it is first loaded it is as white as the Foreground was at the start.
   cDIBSection& Source();
+  // Both surfaces of the filters as they are.
+  std::pair<const cDIBSection&, const cDIBSection&> surfaces() const { return {source_, working_}; }
   // Shows an image with the source painted on it.
   void Render(Image image);
 
@@ -172,6 +176,8 @@ class Texture : public ToolWindow {
   // what the controls do
   void BindControls();
   void BindMouse();
+  void HoldImages();
+  void FollowShown();
   void ShowPanel();
   void PanImages();
   void TakeChosenColour();

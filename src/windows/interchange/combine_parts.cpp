@@ -24,7 +24,7 @@ void CombineIntoCurrent(App& app, OtherParts others) {
   const int part = CurrentPart(app);
   CombineParts(app.model, part, others, Places(app));
   FollowCounts(app);
-  const PartHeader& header = app.model.Part(part);
+  const PartHeader& header = ReadModel(app).Part(part);
   app.view->form5.Label1.SetCaption("faces " + std::to_string(header.maxfaces) + " points " +
                                     std::to_string(header.maxpoints));
   MovePartTo(app.model, part, Origin(app));

@@ -25,14 +25,14 @@ void FinishImport(App& app, const std::filesystem::path& name) {
   FollowCounts(app);
   SyncFaceCorners(app);
   RefreshViews(app);
-  const PartHeader& part = app.model.Part(CurrentPart(app));
+  const PartHeader& part = ReadModel(app).Part(CurrentPart(app));
   app.notices.Give(std::to_string(part.maxpoints) + " points, " + std::to_string(part.maxfaces) +
                        " faces from " + name.filename().string(),
                    NoticeKind::Result);
 }
 
 std::string ImportedCounts(const App& app) {
-  const PartHeader& part = app.model.Part(CurrentPart(app));
+  const PartHeader& part = ReadModel(app).Part(CurrentPart(app));
   return "faces " + std::to_string(part.maxfaces) + " points " + std::to_string(part.maxpoints);
 }
 

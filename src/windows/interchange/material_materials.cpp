@@ -131,20 +131,22 @@ LayoutItem Material::DeclareLayout() {
   });
 }
 
+const MaterialRec& Material::Shown() const { return ReadModel(app_).MaterialGroups(HScroll1.value()); }
 MaterialRec& Material::Chosen() { return app_.model.MaterialGroups(HScroll1.value()); }
 
 // Nothing is written: a value that its bar cannot show, such as a filter of 1, stays what it is.
 void Material::ShowGroup() {
-  Text26.SetText(Chosen().GroupName);
+  const M& m = Shown();
+  Text26.SetText(m.GroupName);
   for (std::size_t row = 0; row < fields_.size(); ++row) {
     BoxedBar& bar = *fields_[row];
-    bar.Show(bar.Clamped(ValueOf(Chosen(), kFields[row]) * kFields[row].units));
+    bar.Show(bar.Clamped(ValueOf(m, kFields[row]) * kFields[row].units));
   }
   ShowColours();
 }
 
 void Material::ShowColours() {
-  const M& m = Chosen();
+  const M& m = Shown();
   ShowColour(Picture1, m.KaR, m.KaG, m.KaB);
   ShowColour(Picture2, m.KdR, m.KdG, m.KdB);
   ShowColour(Picture3, m.KsR, m.KsG, m.KsB);

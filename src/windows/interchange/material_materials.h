@@ -19,6 +19,7 @@ class Material : public ToolWindow {
   // The bars show what the chosen group holds.
   void Load() override { ShowGroup(); }
   void CountsFollowed() override { ShowGroup(); }
+  void RecordsRestored() override { ShowGroup(); }
 
   BoxedBar HScroll1{
       *this, {"HScroll1", "Text21", {0, kMaxGroup - 1, 0}, "Material Group#", "the group that is edited"}};
@@ -46,6 +47,7 @@ class Material : public ToolWindow {
  private:
   static constexpr int kSwatchWidth = 48, kSwatchHeight = 72;  // pixels
 
+  const MaterialRec& Shown() const;
   MaterialRec& Chosen();
   void ShowGroup();
   void ShowColours();

@@ -58,13 +58,23 @@ void RecordPanel::Edit(const Control& control, void (RecordPanel::*change)()) {
 
 void RecordPanel::FollowCounts(Counts which) {
   if (which == Counts::Points) return;
-  const PartHeader& part = app_.model.Part(CurrentPart(app_));
+  const PartHeader& part = ReadModel(app_).Part(CurrentPart(app_));
   const int points = std::max<int>(0, part.maxpoints), faces = std::max<int>(0, part.maxfaces);
   if (VScroll1.value() > points) VScroll1.SetValue(0);
   VScroll1.SetMax(points);
   Text9.SetText(std::to_string(points));
   if (VScroll2.value() > std::max(1, faces)) VScroll2.SetValue(1);
   VScroll2.SetMax(std::max(1, faces));
+  Text10.SetText(std::to_string(faces));
+  ShowRecords();
+}
+
+void RecordPanel::Restore() {
+  const PartHeader& part = ReadModel(app_).Part(CurrentPart(app_));
+  const int points = std::max<int>(0, part.maxpoints), faces = std::max<int>(0, part.maxfaces);
+  VScroll1.ShowMax(points);
+  VScroll2.ShowMax(std::max(1, faces));
+  Text9.SetText(std::to_string(points));
   Text10.SetText(std::to_string(faces));
   ShowRecords();
 }
@@ -76,7 +86,7 @@ void RecordPanel::ShowRecords() {
 
 void RecordPanel::ShowPoint() {
   const int number = std::min(VScroll1.value(), kMaxPoints);  // the bar is longer than the table at the start
-  const PointRec& point = app_.model.Points(CurrentPart(app_), number);
+  const PointRec& point = ReadModel(app_).Points(CurrentPart(app_), number);
   Label4.SetCaption(std::to_string(VScroll1.value()));
   Text1.SetText(ShortestForm(RoundTo(point.X, kDecimals)));
   Text2.SetText(ShortestForm(RoundTo(point.Y, kDecimals)));
@@ -85,7 +95,7 @@ void RecordPanel::ShowPoint() {
 }
 
 void RecordPanel::ShowFace() {
-  const FaceRec& face = app_.model.Faces(CurrentPart(app_), VScroll2.value());
+  const FaceRec& face = ReadModel(app_).Faces(CurrentPart(app_), VScroll2.value());
   Label3.SetCaption(std::to_string(VScroll2.value()));
   Text5.SetText(std::to_string(face.corner1pt));
   Text6.SetText(std::to_string(face.corner2pt));
@@ -106,7 +116,7 @@ void RecordPanel::StoreFace() {
 // A number that is too large is replaced in its box when the typing is over.
 void RecordPanel::StoreCounts() {
   StoreCountEntry(app_.model, CurrentPart(app_), Text9.Number(), Text10.Number());
-  const PartHeader& part = app_.model.Part(CurrentPart(app_));
+  const PartHeader& part = ReadModel(app_).Part(CurrentPart(app_));
   if (Text9.Number() != part.maxpoints) Text9.ShowInstead(std::to_string(part.maxpoints));
   if (Text10.Number() != part.maxfaces) Text10.ShowInstead(std::to_string(part.maxfaces));
   VScroll1.SetMax(part.maxpoints);

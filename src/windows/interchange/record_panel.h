@@ -21,6 +21,8 @@ class RecordPanel {
   // face 1.
   void FollowCounts(Counts which);
   // What the tables hold now.
+  // The same after undo and redo.
+  void Restore();
   void ShowRecords();
   LayoutItem Layout();
 

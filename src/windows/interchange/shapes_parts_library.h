@@ -25,6 +25,7 @@ class PartsLibrary : public ToolWindow {
   void Load() override;
   void PartChosen() override;
   void CountsChanged(Counts which) override { panel.FollowCounts(which); }
+  void RecordsRestored() override { panel.Restore(); }
 
   // Command11 to Command20 choose a folder.
   std::vector<std::unique_ptr<PushButton>> folderButtons;

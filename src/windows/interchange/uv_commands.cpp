@@ -2,6 +2,7 @@
 #include "windows/interchange/uv_commands.h"
 
 #include <string>
+#include <utility>
 
 #include "base/files.h"
 #include "interchange/obj_uvs.h"
@@ -42,7 +43,7 @@ const UvFormat kObjFormatOf3 = {SplitObjUvs, ReadMapping<VtNumbers::Three>, Read
 void ImportUvs(App& app, const std::filesystem::path& name, const UvFormat& format) {
   const UvLines lines = Split(app, name, format);
   format.readUvs(app.model, CurrentPart(app), lines);
-  const PartHeader& part = app.model.Part(CurrentPart(app));
+  const PartHeader& part = std::as_const(app.model).Part(CurrentPart(app));
   app.notices.Give(std::to_string(part.vtcount) + " UV points, " + std::to_string(part.vtfacecount) +
                        " UV faces from " + name.filename().string(),
                    NoticeKind::Result);

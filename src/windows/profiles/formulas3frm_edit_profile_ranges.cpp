@@ -98,7 +98,7 @@ ProfileBlock Formulas3Frm::ReadBlock() const {
 
 // Rows are as long as the current profile, whichever profiles they are.
 ProfileStack Formulas3Frm::ReadStack() const {
-  const ProfileHeader& header = app_.model.Profile(CurrentProfile(app_));
+  const ProfileHeader& header = ReadModel(app_).Profile(CurrentProfile(app_));
   return {HScroll1.value(), HScroll2.value(), header.first, header.count};
 }
 
@@ -121,7 +121,7 @@ ProfileBlock Formulas3Frm::DraggedBlock() const {
 
 void Formulas3Frm::Command7_Click() {
   const int part = CurrentPart(app_);
-  const int after = Check1.value() ? std::max<int>(0, app_.model.Part(part).maxpoints) : 0;
+  const int after = Check1.value() ? std::max<int>(0, ReadModel(app_).Part(part).maxpoints) : 0;
   LayProfiles(app_.model, part, ReadStack(), after);
   app_.model.Part(part).grid.reset();
   FollowCounts(app_);
@@ -134,7 +134,7 @@ void Formulas3Frm::Command8_Click() {
     Command10.Press();
     Command24.Press();
   }
-  const PartHeader& part = app_.model.Part(CurrentPart(app_));
+  const PartHeader& part = ReadModel(app_).Part(CurrentPart(app_));
   const ProfileStack stack = ReadStack();
   int pointsBefore = part.maxpoints;
   if (Check2.value()) {
@@ -149,7 +149,7 @@ void Formulas3Frm::BuildFaces(const ProfileStack& stack, int pointsBefore) {
   const int part = CurrentPart(app_);
   app_.links.freeFaceRange(stack.lastPoint - 2, stack.Width());
   GridPlace place;
-  if (Check1.value()) place = {std::max<int>(0, app_.model.Part(part).maxfaces), pointsBefore};
+  if (Check1.value()) place = {std::max<int>(0, ReadModel(app_).Part(part).maxfaces), pointsBefore};
   pelorium::BuildGridFaces(app_.model, part, stack.Width(), stack.Rows(), Seam::Open, place);
   app_.model.Part(part).Sections = Narrow<std::int16_t>(std::max(0, stack.Width() - 1));
   app_.model.Part(part).count = 0;

@@ -66,10 +66,10 @@ void Formulas::BindParameters() {
 
 void Formulas::Bind(PushButton& button, std::function<void()> edit) {
   button.onClick = [this, &button, edit = std::move(edit)](const Click&) {
-    const int profile = CurrentProfile(app_), count = app_.model.Profile(profile).count;
+    const int profile = CurrentProfile(app_), count = ReadModel(app_).Profile(profile).count;
     Edit(
         button, [&] { EditKeepingFinite(app_.model, edit); }, kChangeOnly);
-    if (app_.model.Profile(profile).count != count) app_.view->form51.ShowProfileCount();
+    if (ReadModel(app_).Profile(profile).count != count) app_.view->form51.ShowProfileCount();
     ShowCoordinates();
     RefreshViews(app_);
   };
@@ -134,11 +134,11 @@ void Formulas::BindFetches() {
 // Layers begin where the Part's rings do; "Pts/ layer" says how many points of a ring are taken.
 RingGrid Formulas::Rings() const {
   const int part = CurrentPart(app_);
-  return {part, app_.model.Part(part).Sections + 1, PointsPerLayer(app_)};
+  return {part, ReadModel(app_).Part(part).Sections + 1, PointsPerLayer(app_)};
 }
 
 void Formulas::JoinEnds() {
-  const int profile = CurrentProfile(app_), count = app_.model.Profile(profile).count;
+  const int profile = CurrentProfile(app_), count = ReadModel(app_).Profile(profile).count;
   HScroll27.SetValue(0);
   MatchPoints(app_.model, profile, HScroll27.value(), count);
   HScroll27.SetValueWidening(count);
@@ -197,12 +197,13 @@ void Formulas::LayerShown(int layer) {
 
 void Formulas::LayerChosen(int layer) {
   LayerShown(layer);
-  const double third = ThirdCoordinate(PlaneOf(subView_), app_.model.ProfilePts(layer, CurrentProfile(app_)));
+  const double third =
+      ThirdCoordinate(PlaneOf(subView_), ReadModel(app_).ProfilePts(layer, CurrentProfile(app_)));
   HScroll28.SetValue(HScroll28.Clamped(third));
 }
 
 void Formulas::ShowCoordinates() {
-  const P& point = app_.model.ProfilePts(HScroll27.value(), CurrentProfile(app_));
+  const P& point = ReadModel(app_).ProfilePts(HScroll27.value(), CurrentProfile(app_));
   for (auto [box, axis] : {std::pair{&Text35, &P::X}, {&Text36, &P::Y}, {&Text37, &P::Z}}) {
     box->SetText(CoordinateText(point.*axis));
   }

@@ -34,6 +34,7 @@ class Formulas : public ToolWindow {
 
   // The current profile was chosen, loaded or changed: its number and its chosen point show.
   void ProfileChosen() override;
+  void RecordsRestored() override { ShowCoordinates(); }
   // The profile view was chosen: the options go back from "Shaded" to its side.
   void ViewOptionChosen() override;
   // The chosen point of the profile follows a drawing or a change of the count.

@@ -49,7 +49,7 @@ void FrmSaveProf::OpenProfiles() {
       ReadProfileFile(app_.model, text);
       return "profiles of " + std::filesystem::path(Text1.text()).filename().string();
     });
-    app_.links.showSections(app_.model.Profile(CurrentProfile(app_)).sectionCount);
+    app_.links.showSections(ReadModel(app_).Profile(CurrentProfile(app_)).sectionCount);
   };
   Edit(Command2, open, kChangeOnly);
   if (!isChosen) return;

@@ -10,6 +10,7 @@
 #include "controls/picture_box.h"
 #include "controls/scroll_bar.h"
 #include "controls/text_box.h"
+#include "windows/shell/history.h"
 #include "windows/shell/tool_window.h"
 
 namespace pelorium {
@@ -47,6 +48,10 @@ bool Wheel(Control& control, const UserEvent& event) {
     const int steps = ToInteger<int>(std::clamp(event.value, -kMost, kMost));
     if (box.onWheel) box.onWheel({steps, event.x, event.y, event.click.keys});
   });
+}
+
+Doing DoingOf(const UserEvent& event, const Window& window, const Control* control) {
+  return {control, window.caption(), event.action == UserAction::Drag || event.action == UserAction::Type};
 }
 
 // False when the event does not apply to that kind of control.
@@ -91,7 +96,8 @@ App::App(Platform& platformToUse, const std::filesystem::path& path)
                       if (links.drawNow) links.drawNow();
                     }),
       platform(seenPlatform_),
-      applicationPath(std::filesystem::absolute(path).lexically_normal()) {
+      applicationPath(std::filesystem::absolute(path).lexically_normal()),
+      history(std::make_shared<History>(*this)) {
   faults.onNote = [this](const std::string& line) { notices.Give(line, NoticeKind::Fault); };
   drawingFaults.isQuiet = true;
   drawingFaults.onNote = [this](const std::string& line) {
@@ -109,6 +115,7 @@ App::~App() { windows_.clear(); }
 void App::Start() {
   links.start();
   EndEvent();
+  history->Start();
 }
 
 void App::EndEvent(bool hadFault) {
@@ -155,7 +162,12 @@ bool App::Deliver(const UserEvent& event) {
     control = window->Find(event.control);
     if (control == nullptr || !control->enabled()) return false;
   }
+  const HistoryEvent step(*history, DoingOf(event, *window, control));
   FinishTypingElsewhere(control);
+  if (control != nullptr && control->kind() == ControlKind::PictureBox) {
+    if (event.action == UserAction::MouseDown) history->Press(*control);
+    if (event.action == UserAction::MouseUp) history->LetGo(*control);
+  }
   if (event.action == UserAction::Type) typedBox_ = dynamic_cast<TextBox*>(control);
   if (onEvent) onEvent(event);
   bool applied = true;  // also when a fault ended the handler

@@ -23,6 +23,7 @@
 
 namespace pelorium {
 
+class History;
 class TextBox;
 class ToolWindow;
 struct FacetoolWindows;
@@ -84,6 +85,7 @@ class App {
   // Asked for a place to draw the shaded picture on when one is first needed.
   GlOpener openGl = OpenEglSurface;
   bool started = false;  // the load of the main frame is over
+  const std::shared_ptr<History> history;
   bool exitRequested = false;
 
   // The file that was chosen last from a dialog, by the folder that its kind starts in.
@@ -129,6 +131,9 @@ class App {
   std::shared_ptr<InterchangeWindows> interchange;
   std::shared_ptr<FrameWindows> frame;
 };
+
+// The tables to be read, which leaves no mark on them.
+inline const ModelStore& ReadModel(const App& app) { return app.model; }
 
 // Builds the rooms with their windows: in frame/, which knows them all.
 void BuildWindows(App& app);

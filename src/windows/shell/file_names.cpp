@@ -115,7 +115,7 @@ void OpenFile(App& app, const std::filesystem::path& name,
 std::string CountsOfParts(const App& app) {
   int parts = 0, points = 0;
   for (int part = 0; part < kUserParts; ++part) {
-    const int inPart = app.model.Part(part).maxpoints;
+    const int inPart = ReadModel(app).Part(part).maxpoints;
     if (inPart > 0) ++parts;
     points += std::max(0, inPart);
   }

@@ -60,6 +60,18 @@ void FollowCounts(App& app) {
 void FollowFaces(App& app) { ChangeCounts(app, Counts::Faces); }
 void FollowPoints(App& app) { ChangeCounts(app, Counts::Points); }
 
+void TellCountsRestored(App& app) {
+  ForEach(app, kCountsOrder, [&app](ToolWindow& window) {
+    Trapped(app.faults, window.name(), [&window] { window.CountsRestored(); });
+  });
+}
+
+void TellRecordsRestored(App& app) {
+  ForEach(app, kCountsOrder, [&app](ToolWindow& window) {
+    Trapped(app.faults, window.name(), [&window] { window.RecordsRestored(); });
+  });
+}
+
 void TellFaceRangeChosen(App& app) {
   ForEach(app, kAnyOrder, [](ToolWindow& window) { window.FaceRangeChosen(); });
 }

@@ -24,6 +24,10 @@ void FollowFaces(App& app);
 // The point half: the chosen points end at the last one, a start that lies outside goes back to the first.
 void FollowPoints(App& app);
 
+// A step of undo or redo: limits from the counts, then all that shows records.
+void TellCountsRestored(App& app);
+void TellRecordsRestored(App& app);
+
 // "Faces Start" or "Faces End" of the View Options moved.
 void TellFaceRangeChosen(App& app);
 // A view was chosen, or what the views show.

@@ -42,6 +42,11 @@ class ToolWindow : public Window {
   virtual void LayerShown(int) {}
   virtual void LayerChosen(int) {}
   virtual void ViewsRefreshed(const ViewSettings&) {}
+  // A step was undone or done again, and the tables are other ones: the limits that follow from counts, and
+  // then, when the values of bars are back, all that shows a record. Neither runs handlers or writes a
+  // record.
+  virtual void CountsRestored() {}
+  virtual void RecordsRestored() {}
 
  protected:
   using Change = std::function<void()>;

@@ -13,7 +13,7 @@ namespace pelorium {
 
 void FollowSections(App& app) {
   ScrollBar& pointsPerLayer = app.view->form5.HScroll5;
-  const int ring = std::max(pointsPerLayer.min(), app.model.Part(CurrentPart(app)).Sections + 1);
+  const int ring = std::max(pointsPerLayer.min(), ReadModel(app).Part(CurrentPart(app)).Sections + 1);
   pointsPerLayer.SetValueWidening(ring);
 }
 

@@ -11,7 +11,9 @@
 #include "graphics/picture_gray.h"
 #include "views/zoom.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 #include "windows/shell/hooks.h"
+#include "windows/shell/step_name.h"
 #include "windows/view/command_row.h"
 #include "windows/view/form51_view_options.h"
 #include "windows/view/refresh_views.h"
@@ -87,6 +89,7 @@ Form36::Form36(App& app) : ToolWindow(app, "Form36", "View and edit window"), mo
   Home.onClick = [this](const Click&) { ResetView(); };
   for (BoxedBar* pan : {&HScroll2, &VScroll2}) pan->onChange = [this] { MoveBackground(); };
   MakePoseButtons();
+  HoldImage();
   commandRow = MakeCommandRow(*this);
   SetLayout(DeclareLayout());
 }
@@ -226,9 +229,9 @@ void Form36::Paint(Picture& picture) {
 }
 
 void Form36::ShowTotals() {
-  Label39.SetCaption(std::to_string(app_.model.Part(CurrentPart(app_)).maxpoints));
-  Label47.SetCaption(std::to_string(app_.model.Part(0).maxfaces));
-  Label49.SetCaption(std::to_string(app_.model.Part(1).maxfaces));
+  Label39.SetCaption(std::to_string(ReadModel(app_).Part(CurrentPart(app_)).maxpoints));
+  Label47.SetCaption(std::to_string(ReadModel(app_).Part(0).maxfaces));
+  Label49.SetCaption(std::to_string(ReadModel(app_).Part(1).maxfaces));
 }
 
 void Form36::DisarmModes() {
@@ -263,12 +266,45 @@ void Form36::ImageChanged() {
 }
 
 void Form36::ShowBackground() {
+  LayBackground();
+  RefreshViews(app_);
+}
+
+void Form36::LayBackground() {
   const Picture& image = Picture2.picture();
   Picture1.picture().SetBackdrop(
       std::make_shared<Backdrop>(Backdrop{image.PixelWidth(), image.PixelHeight(),
                                           std::make_shared<const std::vector<std::uint32_t>>(image.Pixels()),
                                           HScroll2.value(), VScroll2.value()}));
-  RefreshViews(app_);
+}
+
+// Undo and redo bring back the image, whether it lies behind the model, and whether there is one at all.
+void Form36::HoldImage() {
+  constexpr int kLies = 1, kIsThere = 2;
+  app_.history->held.Hold(
+      Picture2,
+      [this] {
+        const bool isThere = Picture2.measures().Revision() != noImage_;
+        return (Picture1.measures().backdrop() ? kLies : 0) | (isThere ? kIsThere : 0);
+      },
+      [this](int extra) {
+        if ((extra & kLies) != 0) {
+          LayBackground();
+        } else {
+          Picture1.picture().SetBackdrop(nullptr);
+        }
+        noImage_ = (extra & kIsThere) != 0 ? 0 : Picture2.measures().Revision();
+        ImageChanged();
+      });
+  app_.history->NameBy(Picture1, [this] { return NameOfStroke(); });
+}
+
+// By the mode that is armed, else by the window.
+std::string Form36::NameOfStroke() const {
+  for (const OptionButton* mode : {&Option7, &Option8, &Option9, &Option10, &Option11, &Option1}) {
+    if (mode->value()) return StepName(*mode);
+  }
+  return caption();
 }
 
 void Form36::ClearBackground() {

@@ -124,6 +124,9 @@ class Form36 : public ToolWindow {
   void PlaceOrigin();
   void MakePoseButtons();
   void MoveBackground();
+  void LayBackground();
+  void HoldImage();
+  std::string NameOfStroke() const;
   LayoutItem DeclareLayout();
 
   Content content_ = Content::Wire;

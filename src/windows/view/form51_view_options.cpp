@@ -7,6 +7,7 @@
 #include "base/numbers.h"
 #include "core/part_operations.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/follow_sections.h"
 #include "windows/view/form36_view.h"
@@ -47,6 +48,7 @@ Form51::Form51(App& app) : ToolWindow(app, "Form51", "View Options") {
       Command5, [this] { Label24.SetCaption(Calculated(Text10, Text8, Text9)); }, kChangeOnly);
   OnEdit(
       Command3, [this] { Label21.SetCaption(Calculated(Text7, Text5, Text4)); }, kChangeOnly);
+  for (ScrollBar* bar : {&HScroll7, &HScroll5}) app_.history->held.Carry(*bar);
   SetRole(WindowRole::Options);
   BindViews();
   BindPreview();
@@ -108,14 +110,14 @@ void Form51::Load() {
 }
 
 void Form51::ShowCount() {
-  const int count = app_.model.Profile(CurrentProfile(app_)).count;
+  const int count = ReadModel(app_).Profile(CurrentProfile(app_)).count;
   Label17.SetCaption(std::to_string(count));
   HScroll6.SetValueWidening(count);
 }
 
 void Form51::ShowProfileCount() {
   ShowCount();
-  TellLayerShown(app_, app_.model.Profile(CurrentProfile(app_)).count);
+  TellLayerShown(app_, ReadModel(app_).Profile(CurrentProfile(app_)).count);
 }
 
 void Form51::ShowProfile() {
@@ -126,11 +128,28 @@ void Form51::ShowProfile() {
 // The face range ends at the last face; after new counts it starts at the first.
 void Form51::CountsChanged(Counts which) {
   if (which == Counts::Points) return;
-  const int faces = std::max<int>(0, app_.model.Part(CurrentPart(app_)).maxfaces);  // a count may stand at -1
+  const int faces =
+      std::max<int>(0, ReadModel(app_).Part(CurrentPart(app_)).maxfaces);  // a count may stand at -1
   HScroll7.SetMax(std::max(1, faces));
   HScroll5.SetMax(faces);
   HScroll5.SetValue(faces);
   if (which == Counts::All) HScroll7.SetValue(1);
+}
+
+void Form51::CountsRestored() {
+  const int faces = std::max<int>(0, ReadModel(app_).Part(CurrentPart(app_)).maxfaces);
+  HScroll7.ShowMax(std::max(1, faces));
+  HScroll5.ShowMax(faces);
+}
+
+void Form51::RecordsRestored() {
+  Label12.SetCaption(std::to_string(HScroll7.value()));
+  Label10.SetCaption(std::to_string(HScroll5.value()));
+  CountsFollowed();
+  const int count = ReadModel(app_).Profile(CurrentProfile(app_)).count;
+  Label17.SetCaption(std::to_string(count));
+  HScroll6.ShowMax(std::max(count, HScroll6.max()));
+  HScroll6.Show(count);
 }
 
 void Form51::CountsFollowed() { Label3.SetCaption(CountCaption(app_.model, CurrentPart(app_))); }

@@ -24,6 +24,8 @@ class Form51 : public ToolWindow {
   void Load() override;
   void CountsChanged(Counts which) override;
   void CountsFollowed() override;
+  void CountsRestored() override;
+  void RecordsRestored() override;
 
   // The profile's count as it is now, in every control that shows it.
   void ShowProfileCount();

@@ -12,6 +12,7 @@
 #include "geometry/edit_chosen_points.h"
 #include "geometry/join_ends.h"
 #include "windows/shell/app_shell.h"
+#include "windows/shell/history.h"
 #include "windows/shell/hooks.h"
 #include "windows/view/form51_view_options.h"
 #include "windows/view/shared_parameters.h"
@@ -148,7 +149,9 @@ const std::array<EditButton, 22> kEdits = {{
 Form5::Form5(App& app) : ToolWindow(app, "Form5", "Precise Edit") {
   for (TextBox* box : {&Text5, &Text9, &Text3}) {
     box->onKeyUp = [this] { RefreshViews(app_); };
+    app_.history->held.Hold(*box);
   }
+  for (ScrollBar* bar : {&HScroll20, &HScroll25, &HScroll5}) app_.history->held.Carry(*bar);
   BindRanges();
   HScroll11.onChange = [this] { app_.view->form51.HScroll4.SetValue(HScroll11.value()); };
   OnEdit(Command19, [this] { Command19_Click(); });
@@ -183,7 +186,7 @@ void Form5::MakeEditButtons() {
 void Form5::Load() {
   for (ScrollBar* layers : {&HScroll1, &HScroll2, &HScroll5}) layers->SetMax(kMaxLayer);
   HScroll11.SetMax(kUserParts - 1);
-  const int points = app_.model.Part(CurrentPart(app_)).maxpoints;
+  const int points = ReadModel(app_).Part(CurrentPart(app_)).maxpoints;
   HScroll25.SetMax(points);
   HScroll25.SetValue(points);
   for (ScrollBar* range : {&HScroll20, &HScroll25}) range->SetMax(kStartPoints);
@@ -221,7 +224,7 @@ void Form5::ChoosePoints(int first, int last) {
 void Form5::ShiftPoints(int layers) {
   const int by = layers * HScroll5.value();
   const int first = HScroll20.value() + by, last = HScroll25.value() + by;
-  const int highest = app_.model.Part(CurrentPart(app_)).maxpoints;
+  const int highest = ReadModel(app_).Part(CurrentPart(app_)).maxpoints;
   if (first >= 1 && last >= 0 && last <= highest) ChoosePoints(first, last);
 }
 
@@ -231,7 +234,7 @@ void Form5::ShiftLayers(int layers) {
   HScroll1.SetValue(first);
   HScroll2.SetValue(last);
   const int width = HScroll5.value();
-  const int highest = app_.model.Part(CurrentPart(app_)).maxpoints;
+  const int highest = ReadModel(app_).Part(CurrentPart(app_)).maxpoints;
   ChoosePoints(first * width + 1, std::min((last + 1) * width, highest));
 }
 
@@ -246,12 +249,18 @@ void Form5::PartChosen() { HScroll11.SetValue(CurrentPart(app_)); }
 // any case.
 void Form5::CountsChanged(Counts which) {
   if (which == Counts::Faces) return;
-  const int points = app_.model.Part(CurrentPart(app_)).maxpoints;
+  const int points = ReadModel(app_).Part(CurrentPart(app_)).maxpoints;
   HScroll25.SetMax(points);
   HScroll25.SetValue(points);
   const int highest = std::max(1, points);
   if (which == Counts::All || HScroll20.value() > highest) HScroll20.SetValue(1);
   HScroll20.SetMax(highest);
+}
+
+void Form5::CountsRestored() {
+  const int points = ReadModel(app_).Part(CurrentPart(app_)).maxpoints;
+  HScroll25.ShowMax(points);
+  HScroll20.ShowMax(std::max(1, points));
 }
 
 LayoutItem Form5::ButtonRow(std::string_view frame, std::vector<Control*> before) const {

@@ -30,6 +30,7 @@ class Form5 : public ToolWindow {
   void Load() override;
   void PartChosen() override;
   void CountsChanged(Counts which) override;
+  void CountsRestored() override;
 
   // The axis of "Flip", which mirror images flip along as well.
   Axis FlipAxis() const;

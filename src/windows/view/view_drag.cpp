@@ -32,10 +32,11 @@ void MoveMirrorImage(App& app) {
   const ChosenPoints chosen = Chosen(app);
   const std::optional<int> moved = OnlyChosenPoint(app.model, chosen);
   if (!moved) return;
-  const int partner = MirrorPartner(*moved, PointsPerLayer(app), 1, app.model.Part(chosen.part).maxpoints);
+  const int partner =
+      MirrorPartner(*moved, PointsPerLayer(app), 1, ReadModel(app).Part(chosen.part).maxpoints);
   if (partner == kNoPartner) return;
-  PlaceMirrored(app.model.Points(chosen.part, partner), app.model.Points(chosen.part, *moved), FlipAxis(app),
-                Origin(app));
+  PlaceMirrored(app.model.Points(chosen.part, partner), ReadModel(app).Points(chosen.part, *moved),
+                FlipAxis(app), Origin(app));
 }
 
 void MovePoints(App& app, const DragStep& step, const DragAxes& axes) {

@@ -220,7 +220,7 @@ void ViewMouse::MoveLayer(const MouseEvent& event) {
   if (MirrorsMoves(app_)) {
     const int partner = MirrorPartner(*layer_, PointsPerLayer(app_), 0, kMaxLayer);
     if (partner != kNoPartner) {
-      PlaceMirrored(app_.model.ProfilePts(partner, profile), app_.model.ProfilePts(*layer_, profile),
+      PlaceMirrored(app_.model.ProfilePts(partner, profile), ReadModel(app_).ProfilePts(*layer_, profile),
                     FlipAxis(app_), Origin(app_));
     }
   }
@@ -239,8 +239,8 @@ void ViewMouse::ShowPlace(const MouseEvent& event) {
 // Points that are moved have no next one.
 void ViewMouse::ShowNextLine(const MouseEvent& event) {
   const int profile = CurrentProfile(app_);
-  const int count = app_.model.Profile(profile).count;
-  const ProfilePointRec& last = app_.model.ProfilePts(std::max(count - 1, 0), profile);
+  const int count = ReadModel(app_).Profile(profile).count;
+  const ProfilePointRec& last = ReadModel(app_).ProfilePts(std::max(count - 1, 0), profile);
   const PickView view = ProfileView(app_);
   const ScreenPoint at = Project(view.projection, last.X, last.Y, last.Z);
   const double x = at.x + view.panX, y = at.y + view.panY;
