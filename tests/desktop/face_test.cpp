@@ -306,7 +306,7 @@ TEST_F(FaceTest, NoticesStandInTheStatusLine) {
   EXPECT_EQ(line.text().toStdString(), "saved a.prj, 3 KB");
 }
 
-// A number that its bar cannot take gives way when the box loses the focus.
+// The dot: the model is not what was opened or saved last.
 TEST_F(FaceTest, TheStatusLineTellsWhatIsWorkedOn) {
   EXPECT_EQ(Shown<QLabel>("status").text().toStdString(),
             "Part 0   Profile 0   0 points, 0 chosen   0 faces");
@@ -315,11 +315,12 @@ TEST_F(FaceTest, TheStatusLineTellsWhatIsWorkedOn) {
   Controlled<ScrollBar>("Form5", "HScroll25").SetValue(3);
   QTest::mouseClick(&Shown<QRadioButton>("Form36.Option10"), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
   EXPECT_EQ(Shown<QLabel>("status").text().toStdString(),
-            "Part 0   Profile 0   3 points, 2 chosen   0 faces");
+            "Part 0   Profile 0   3 points, 2 chosen   0 faces ●");
   EXPECT_EQ(Shown<QLabel>("hint").text().toStdString(),
             "Pick Points: drag to choose, right button takes off, Shift takes all");
 }
 
+// A number that its bar cannot take gives way when the box loses the focus.
 TEST_F(FaceTest, ATypedNumberOutOfRangeShowsItsLimitLater) {
   auto& widget = Shown<QLineEdit>("Form51.Text6");
   widget.setFocus();

@@ -61,6 +61,7 @@ TEST_F(TextureWindow, TheRingIsSeenOnEveryGround) {
     window.Picture1.picture().Clear();
     Point("Picture1", UserAction::MouseMove, 50, 60, MouseButton::None);
     EXPECT_EQ(window.Picture1.overlay().at(0).colour, ring) << ground;
+    EXPECT_EQ(At(Foreground, 50, 60), Rgb(ground, ground, ground));  // a hover leaves no mark
   }
 }
 
