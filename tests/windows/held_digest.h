@@ -84,7 +84,7 @@ inline void AddImages(Digester& digest, const App& app) {
     for (int y = 0; y < surface->Height(); ++y) {
       const std::uint8_t* row = surface->Row(y);
       for (int i = 0; i < surface->BytesPerScanLine(); i += 4) {
-        digest.Add(row[i] + row[i + 1] * 256 + row[i + 2] * 65536 + row[i + 3] * 16777216);
+        digest.Add(row[i] + row[i + 1] * 256 + row[i + 2] * 65536), digest.Add(row[i + 3]);
       }
     }
   }

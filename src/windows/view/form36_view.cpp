@@ -299,10 +299,14 @@ void Form36::HoldImage() {
   app_.history->NameBy(Picture1, [this] { return NameOfStroke(); });
 }
 
-// By the mode that is armed, else by the window.
+// By the mode that is armed, else by the view in which clicks draw, else by the window.
 std::string Form36::NameOfStroke() const {
   for (const OptionButton* mode : {&Option7, &Option8, &Option9, &Option10, &Option11, &Option1}) {
     if (mode->value()) return StepName(*mode);
+  }
+  const Form51& options = app_.view->form51;
+  for (const OptionButton* drawing : {&options.Option1, &options.Option3}) {
+    if (drawing->value()) return StepName(*drawing);
   }
   return caption();
 }
