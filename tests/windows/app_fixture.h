@@ -28,25 +28,13 @@ class AppTest : public FolderTest {
   }
 
   void Mouse(UserAction action, float x, float y, MouseButton button = MouseButton::Left) {
-    UserEvent event;
-    event.window = "Form36";
-    event.control = "Picture1";
-    event.action = action;
-    event.x = x;
-    event.y = y;
-    event.click.button = button;
-    app.Deliver(event);
+    app.Deliver({"Form36", "Picture1", action, 0, {}, {button, {}}, x, y});
   }
   void ClickAt(float x, float y, MouseButton button = MouseButton::Left) {
     Mouse(UserAction::MouseDown, x, y, button);
     Mouse(UserAction::MouseUp, x, y, button);
   }
-  void PressItem(const std::string& name) {
-    UserEvent event;
-    event.window = "MDIForm1";
-    event.control = name;
-    EXPECT_TRUE(app.Deliver(event)) << name;
-  }
+  void PressItem(const std::string& name) { EXPECT_TRUE(app.Deliver({"MDIForm1", name})) << name; }
 
   // A profile of four points at radius 50, 60, 60, 40, revolved.
   void MakeCup() {

@@ -13,28 +13,13 @@ namespace {
 class GeneratedImages : public AppTest {
  protected:
   void Send(const std::string& window, const std::string& control, UserAction action, double value = 0) {
-    UserEvent event;
-    event.window = window;
-    event.control = control;
-    event.action = action;
-    event.value = value;
-    EXPECT_TRUE(app.Deliver(event)) << window << "." << control;
+    EXPECT_TRUE(app.Deliver({window, control, action, value, {}, {}})) << window << "." << control;
   }
   void Press(const std::string& window, const std::string& control, MouseButton button = MouseButton::Left) {
-    UserEvent event;
-    event.window = window;
-    event.control = control;
-    event.click.button = button;
-    EXPECT_TRUE(app.Deliver(event)) << window << "." << control;
+    EXPECT_TRUE(app.Deliver({window, control, UserAction::Press, 0, {}, {button, {}}})) << window << control;
   }
   void Paint(UserAction action, float x, float y) {
-    UserEvent event;
-    event.window = "Specialeffects3";
-    event.control = "Picture1";
-    event.action = action;
-    event.x = x;
-    event.y = y;
-    app.Deliver(event);
+    app.Deliver({"Specialeffects3", "Picture1", action, 0, {}, {}, x, y});
   }
   std::vector<std::uint32_t> Image() { return app.view->form36.Picture2.picture().Pixels(); }
   int ViewAt(int x, int y) { return app.view->form36.Picture1.picture().PixelAt(x, y); }
